@@ -1,0 +1,69 @@
+#pragma once
+// Connecting and disconnecting (C1-C5), validating a fresh connection (V1-V7) and repeating the
+// model recognition after a rejected first command (T1-T4). It holds no widgets: the main window
+// paints what it reports and shows the message keys it emits, the command line prints them.
+
+#include <QObject>
+#include <QString>
+#include <QTimer>
+
+class ConsoleExchange;
+class Session;
+class SerialPort;
+class Database;
+
+class ConnectionController : public QObject
+{
+    Q_OBJECT
+public:
+    static constexpr int ValidationIntervalMs = 300;
+    static constexpr int ReidentifyIntervalMs = 50;
+
+    ConnectionController(Session &session, ConsoleExchange &exchange, SerialPort &port,
+                         QObject *parent = nullptr);
+
+    // The connect button (Botoes element 1). `portName` is the device picked in cbPortas;
+    // `portNumberText` the text the COM rules and the messages use (the COM number on Windows).
+    void connectClicked(const QString &portName, const QString &portNumberText);
+
+    void onTimerValidaPorta();
+    void onTimerVerificaVersao();
+
+    QTimer &timerValidaPorta() { return m_timerValidaPorta; }
+    QTimer &timerVerificaVersao() { return m_timerVerificaVersao; }
+    int validationCount() const { return m_validation; }
+    void resetValidationCount() { m_validation = 0; }
+
+    // The text of the model-number label.
+    QString modelNumber() const { return m_modelNumber; }
+    // Whether a model combo box is visible to receive the focus / re-identification.
+    void setModelComboVisible(bool visible) { m_modelComboVisible = visible; }
+
+signals:
+    void buttonCaptionChanged(const QString &key);  // "Conectar", "Conectando", "Desconectar"
+    void statusLightChanged(const QString &name);   // "Branco", "Amarelo", "Verde"
+    void modelNumberChanged(const QString &text);
+    void modelRecognised(const QString &modelName); // Ref of the Modelos row
+    void message(const QString &key, const QString &porta); // the main window shows Mensagem
+    void focusModelCombo();
+    void refillPorts();
+    void connected(); // V4: screens waiting for a connection may enable their start buttons
+    void disconnected();
+
+private:
+    void disconnectPort();
+    void recognise(); // V5-V7
+    void startReidentification(); // T1
+
+    Session &m_session;
+    ConsoleExchange &m_exchange;
+    SerialPort &m_port;
+    QTimer m_timerValidaPorta;
+    QTimer m_timerVerificaVersao;
+    quint8 m_validation = 0;
+    quint8 m_attempts = 0;
+    quint8 m_ticks = 0;
+    QString m_modelNumber;
+    QString m_portNumberText;
+    bool m_modelComboVisible = true;
+};
