@@ -39,6 +39,7 @@ function(vekto_add_tests)
       VEKTO_SHARED_DIR="${VEKTO_SHARED_DIR}"
       VEKTO_BIN_DIR="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}"
       VEKTO_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+    target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
     target_link_libraries(${name} PRIVATE Qt6::Test ${ARGN})
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
