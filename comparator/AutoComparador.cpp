@@ -1,0 +1,61 @@
+#include "AutoComparador.h"
+
+#include <algorithm>
+
+const QString AutoComparador::Placeholder = QStringLiteral("xxxxx\u00AE");
+const QString AutoComparador::PromptTail = QStringLiteral("] :-) ");
+
+QStringList AutoComparador::longestFirst(QStringList masks)
+{
+    // Plain code-point order, as the database's binary collation sorts the column.
+    std::stable_sort(masks.begin(), masks.end(),
+                     [](const QString &a, const QString &b) { return QString::compare(a, b) > 0; });
+    return masks;
+}
+
+QString AutoComparador::removeFillerMarks(const QString &mask)
+{
+    QString cleaned = mask;
+    for (const char *filler : {"'jox'", "'nas'", "'ins'"})
+        cleaned.remove(QLatin1String(filler), Qt::CaseSensitive);
+    return cleaned;
+}
+
+QString AutoComparador::mask(const QString &text, const QStringList &masks, FillerMarks fillerMarks)
+{
+    QString result = text;
+    for (const QString &stored : longestFirst(masks)) {
+        const QString m = fillerMarks == FillerMarks::Remove ? removeFillerMarks(stored) : stored;
+        if (m.isEmpty())
+            continue;
+        result.replace(m, Placeholder, Qt::CaseInsensitive);
+    }
+    return result;
+}
+
+AutoComparador::Mark AutoComparador::evaluate(const QString &console, const QString &recorded,
+                                              const QStringList &masks, bool longAnswer)
+{
+    if (longAnswer)
+        return Mark::Unchanged;
+
+    QString c = mask(console, masks, FillerMarks::Remove);
+    if (c.indexOf(PromptTail) >= 1)
+        c.chop(std::min<qsizetype>(PromptLineLength, c.size()));
+    c.remove(0, 2);
+
+    // The recorded text keeps the two leading characters dropped above, so an identical answer
+    // is found at the third character; a find at the very first one counts as a mismatch.
+    return recorded.indexOf(c, 0, Qt::CaseInsensitive) >= 1 ? Mark::Shown : Mark::Hidden;
+}
+
+bool AutoComparador::isLongAnswerCommand(const QString &command)
+{
+    const QString upper = command.toUpper();
+    return upper == QLatin1String("TESTMEMORY --1MB") || upper == QLatin1String("HELP");
+}
+
+bool AutoComparador::isButtonTestCommand(const QString &command)
+{
+    return command.toUpper() == QLatin1String("BUTTONCNT --DQE");
+}
