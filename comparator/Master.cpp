@@ -1,0 +1,384 @@
+#include "Master.h"
+#include "ui_Master.h"
+
+#include "AutoComparador.h"
+#include "BoundRecordView.h"
+#include "ConsoleExchange.h"
+#include "Database.h"
+#include "Dialogs.h"
+#include "Session.h"
+#include "Shell.h"
+#include "fmHelp.h"
+#include "zAjustes.h"
+#include "ConsoleTextEdit.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLineEdit>
+
+Master::Master(const ScreenContext &ctx, Shell &shell, std::function<void(QWidget *)> showWindow,
+               QWidget *parent)
+    : TestScreen(ctx, QStringLiteral("Master"), parent), ui(std::make_unique<Ui::Master>()), m_shell(shell),
+      m_showWindow(std::move(showWindow)), m_db(std::make_unique<Database>(ctx.session.configPath()))
+{
+    ui->setupUi(this);
+    setAttribute(Qt::WA_DeleteOnClose);
+
+    m_data1 = new BoundRecordView(this);
+    m_data1->bind(ui->txtComparador, QStringLiteral("Dados"));
+    m_data1->bind(ui->txtInfoDados, QStringLiteral("Info"));
+    m_data1->bind(ui->txtInfoDados2, QStringLiteral("Info2"));
+    m_data1->bind(ui->txtInfoDados3, QStringLiteral("Info3"));
+    m_data2 = new BoundRecordView(this);
+    m_data2->bind(ui->txtInfoComandos, QStringLiteral("Info"));
+    m_data2->bind(ui->txtInfoComandos2, QStringLiteral("Info2"));
+    m_data2->bind(ui->txtInfoComandos3, QStringLiteral("Info3"));
+
+    ui->lbAutoComparador->setVisible(false);
+    ui->btSend->setEnabled(session().connectedAndIdle());
+
+    // No model and command known yet: the recorded side starts empty, the notes on the first command.
+    m_data1->clear();
+    m_data2->requery(m_db->comandosQuery());
+
+    exchange().registerReceiver(QString::fromLatin1(ScreenId), this,
+                                AnswerReceiver{[this](const QString &answer) { handOver(answer); }, {}});
+
+    connect(ui->btSend, &QPushButton::clicked, this, &Master::send);
+    connect(ui->txtComandos->lineEdit(), &QLineEdit::returnPressed, this, &Master::send);
+    connect(ui->txtComandos, &QComboBox::editTextChanged, this, &Master::BuscaDadosGravados);
+    connect(ui->txtComandos, &QComboBox::textActivated, this, &Master::BuscaDadosGravados);
+    connect(ui->btSalvar, &QPushButton::clicked, this, &Master::recordAnswer);
+    connect(ui->btExcluir, &QPushButton::clicked, this, &Master::deleteRecordedAnswer);
+    connect(ui->btSalvarAtualizacoes, &QPushButton::clicked, this, &Master::saveEdits);
+    connect(ui->btNovo, &QPushButton::clicked, this, &Master::addCommand);
+    connect(ui->btApagar, &QPushButton::clicked, this, &Master::deleteCommand);
+    connect(ui->btReiniciar, &QPushButton::clicked, this, &Master::restartDevice);
+    connect(ui->btLimpar, &QPushButton::clicked, this, &Master::clearConsole);
+    connect(ui->btHelp, &QPushButton::clicked, this, &Master::showHelp);
+    connect(ui->btHelpPdf, &QPushButton::clicked, this, &Master::openHelpPdf);
+    connect(ui->Command1, &QPushButton::clicked, this, &Master::maskRecordedAnswer);
+    connect(ui->Command2, &QPushButton::clicked, this, &Master::addMaskText);
+    connect(ui->Command3, &QPushButton::clicked, this, &Master::openAdjustments);
+    connect(ui->HScroll1, &QScrollBar::valueChanged, this, &Master::setBorder);
+
+    // A connection that comes up while the screen is open lets it send (unless it waits).
+    connect(&session(), &Session::connectionFlagChanged, this, [this](const QString &flag) {
+        if (flag == QLatin1String("1") && !m_waiting)
+            ui->btSend->setEnabled(true);
+    });
+    connect(&session(), &Session::modeloChanged, this, [this] {
+        updateDeviceLabel();
+        BuscaDadosGravados(ui->txtComandos->currentText());
+    });
+    connect(&session(), &Session::idiomaChanged, this, &Master::retranslate);
+
+    {
+        const QSignalBlocker block(ui->txtComandos);
+        fillCommandList();
+        ui->txtComandos->setCurrentIndex(-1);
+        ui->txtComandos->setEditText(QString());
+    }
+    ui->HScroll1->setValue(ui->HScroll1->maximum());
+    setBorder(ui->HScroll1->value());
+    retranslate();
+}
+
+Master::~Master() = default;
+
+void Master::retranslate()
+{
+    setWindowTitle(Traduz(QStringLiteral("Modo Comandos e Comparador")) + QStringLiteral(" - Pelorin Vekto"));
+    const auto caption = [this](QWidget *w, const char *key, const char *tip = nullptr) {
+        w->setProperty("text", Traduz(QString::fromUtf8(key)));
+        if (tip)
+            w->setToolTip(Traduz(QString::fromUtf8(tip)));
+    };
+    caption(ui->btSend, "Executar", "Executar Comando");
+    caption(ui->btNovo, "Adicionar Comando");
+    caption(ui->btApagar, "Excluir Comando");
+    caption(ui->btSalvar, "Copiar Dados", "Copiar Dados do Console para o Comparador");
+    caption(ui->btExcluir, "Excluir", "Apagar Dados Gravados");
+    caption(ui->btSalvarAtualizacoes, "Salvar", "Salvar Alterações");
+    caption(ui->btReiniciar, "Reiniciar Dispositivo", "Sair do Modo Purple");
+    caption(ui->btLimpar, "Limpar");
+    caption(ui->ckLimpar, "Auto", "Limpar dados após comando");
+    caption(ui->btHelp, "Help");
+    caption(ui->btHelpPdf, "Help PDF");
+    caption(ui->ldDispConect, "Leitura do dispositivo conectado:");
+    caption(ui->ldDispComparador, "Comparador: (Dispositivos Gravados)");
+    caption(ui->lbComandos, "Comandos:");
+    caption(ui->lbInfDados, "Informações sobre os dados:");
+    caption(ui->lbVar, "* Tensões de malhas VAR apresentam variações de valores");
+    caption(ui->lbAutoComparadorX, "Auto Comparador");
+    caption(ui->lbAutoComparadorOk, "Auto Comparador OK");
+    caption(ui->Command1, "Tira Marca");
+    caption(ui->Command2, "Add Marca");
+    caption(ui->Command3, "Ajustes");
+    ui->txtComandos->setToolTip(Traduz(QStringLiteral("Digite ou seleciona na lista suspença o comando desejado")));
+    showLanguageBoxes();
+    updateDeviceLabel();
+}
+
+void Master::showLanguageBoxes()
+{
+    const quint8 idioma = session().idioma();
+    ui->txtInfoComandos->setVisible(idioma == 1);
+    ui->txtInfoDados->setVisible(idioma == 1);
+    ui->txtInfoComandos2->setVisible(idioma == 2);
+    ui->txtInfoDados2->setVisible(idioma == 2);
+    ui->txtInfoComandos3->setVisible(idioma == 3);
+    ui->txtInfoDados3->setVisible(idioma == 3);
+}
+
+void Master::updateDeviceLabel()
+{
+    ui->lbDispositivo->setText(QStringLiteral("  ") + Traduz(QStringLiteral("Modelo")) + QStringLiteral(": ")
+                               + session().modelo());
+}
+
+void Master::fillCommandList()
+{
+    const QString current = ui->txtComandos->currentText();
+    const QSignalBlocker block(ui->txtComandos);
+    ui->txtComandos->clear();
+    for (const ComandoRecord &c : m_db->comandos())
+        ui->txtComandos->addItem(c.comando);
+    ui->txtComandos->setEditText(current);
+}
+
+void Master::BuscaDadosGravados(const QString &command)
+{
+    m_data1->requery(m_db->dadosQuery(session().modelo(), command));
+    m_data2->requery(m_db->comandoQuery(command));
+}
+
+void Master::sendForThisScreen(const QString &command)
+{
+    m_waiting = true;
+    ui->btSend->setEnabled(false);
+    enviaComando(QString::fromLatin1(ScreenId), command);
+}
+
+void Master::send()
+{
+    const QString command = ui->txtComandos->currentText();
+    if (!session().connectedAndIdle() || command.isEmpty())
+        return;
+
+    if (::AutoComparador::isLongAnswerCommand(command))
+        session().setLongAnswer(true);
+    sendForThisScreen(command);
+
+    if (::AutoComparador::isButtonTestCommand(command)) {
+        // The result shows on the phone; the test runs until it is told to stop.
+        dialogs().information(this, Traduz(QStringLiteral("Teste de Funcionamento de Botões")),
+                              Traduz(QStringLiteral("Resultado do teste estão sendo exibidos na tela do dispositio"))
+                                  + QStringLiteral("\r\n") + Traduz(QStringLiteral("Clique em OK para finalizar")));
+        sendForThisScreen(QStringLiteral("/q"));
+    }
+
+    BuscaDadosGravados(command);
+    ui->lbAutoComparador->setVisible(false);
+}
+
+void Master::handOver(const QString &answer)
+{
+    if (ui->ckLimpar->isChecked())
+        ui->txtConsole->setRawText(answer);
+    else
+        ui->txtConsole->appendRaw(QStringLiteral("\r\n") + answer);
+    m_waiting = false;
+    ui->btSend->setEnabled(true);
+    AutoComparador();
+}
+
+void Master::AutoComparador()
+{
+    const auto mark = ::AutoComparador::evaluate(ui->txtConsole->rawText(), ui->txtComparador->rawText(),
+                                               m_db->maskTexts(), session().longAnswer());
+    if (mark != ::AutoComparador::Mark::Unchanged)
+        ui->lbAutoComparador->setVisible(mark == ::AutoComparador::Mark::Shown);
+}
+
+bool Master::writeSucceeded(bool ok)
+{
+    if (!ok)
+        dialogs().critical(this, Traduz(QStringLiteral("DB_TITULO")), Traduz(QStringLiteral("DB_ERRO_GRAVACAO")));
+    return ok;
+}
+
+void Master::recordAnswer()
+{
+    const QString console = ui->txtConsole->rawText();
+    if (console.isEmpty() || !ui->btSend->isEnabled())
+        return;
+    const QString command = ui->txtComandos->currentText();
+    if (m_data1->hasRecord()) {
+        if (!dialogs().question(this, Traduz(QStringLiteral("Dados")),
+                                Traduz(QStringLiteral("Deseja substituir os dados gravados do lado comparador?"))))
+            return;
+        DadosRecord record{m_data1->value(QStringLiteral("Aparelho")).toString(),
+                           m_data1->value(QStringLiteral("Comando")).toString(),
+                           console,
+                           m_data1->value(QStringLiteral("Info")).toString(),
+                           m_data1->value(QStringLiteral("Info2")).toString(),
+                           m_data1->value(QStringLiteral("Info3")).toString()};
+        writeSucceeded(m_db->updateDados(record));
+    } else {
+        writeSucceeded(m_db->addDados(DadosRecord{session().modelo(), command, console, {}, {}, {}}));
+    }
+    BuscaDadosGravados(command);
+}
+
+void Master::deleteRecordedAnswer()
+{
+    if (!ui->btSend->isEnabled() || ui->txtComparador->rawText().isEmpty() || !m_data1->hasRecord())
+        return;
+    if (!dialogs().question(this, Traduz(QStringLiteral("Excluir")),
+                            Traduz(QStringLiteral("Deseja excluir os dados gravados?"))))
+        return;
+    writeSucceeded(m_db->deleteDados(m_data1->value(QStringLiteral("Aparelho")).toString(),
+                                     m_data1->value(QStringLiteral("Comando")).toString()));
+    BuscaDadosGravados(ui->txtComandos->currentText());
+}
+
+void Master::saveEdits()
+{
+    if (!ui->btSend->isEnabled())
+        return;
+    if (!dialogs().question(this, Traduz(QStringLiteral("Salvar")), Traduz(QStringLiteral("Deseja salvar as alterações?"))))
+        return;
+    bool ok = true;
+    if (m_data1->hasRecord())
+        ok = m_db->updateDados(DadosRecord{m_data1->value(QStringLiteral("Aparelho")).toString(),
+                                           m_data1->value(QStringLiteral("Comando")).toString(),
+                                           ui->txtComparador->rawText(), ui->txtInfoDados->rawText(),
+                                           ui->txtInfoDados2->rawText(), ui->txtInfoDados3->rawText()});
+    if (ok && m_data2->hasRecord())
+        ok = m_db->updateComandoInfo(ComandoRecord{m_data2->value(QStringLiteral("Comando")).toString(),
+                                                   ui->txtInfoComandos->rawText(), ui->txtInfoComandos2->rawText(),
+                                                   ui->txtInfoComandos3->rawText()});
+    // On failure the edits stay in the boxes so they are not lost; the file keeps its record.
+    if (writeSucceeded(ok))
+        BuscaDadosGravados(ui->txtComandos->currentText());
+}
+
+void Master::addCommand()
+{
+    const auto answer = dialogs().input(this, Traduz(QStringLiteral("Novo Comando")),
+                                        Traduz(QStringLiteral("Digite o comando a ser gravado:")),
+                                        ui->txtComandos->currentText());
+    // A quote would break every query of the older tools that share this file: refused.
+    if (!answer || answer->isEmpty() || answer->contains(u'\''))
+        return;
+    if (!m_db->comandoExists(*answer) && !writeSucceeded(m_db->addComando(*answer)))
+        return;
+    fillCommandList();
+    ui->txtComandos->setEditText(*answer);
+}
+
+void Master::deleteCommand()
+{
+    const QString command = ui->txtComandos->currentText();
+    if (command.isEmpty())
+        return;
+    if (!dialogs().question(this, Traduz(QStringLiteral("Excluir Comando")),
+                            Traduz(QStringLiteral("Deseja excluir o comando ")) + QStringLiteral("  ") + command
+                                + QStringLiteral("?")))
+        return;
+    writeSucceeded(m_db->deleteComando(command));
+    fillCommandList();
+    m_data2->requery(m_db->comandoQuery(command));
+}
+
+void Master::restartDevice()
+{
+    const QString title = Traduz(QStringLiteral("Reiniciar Dispositivo"));
+    if (!dialogs().question(this, title, title))
+        return;
+    if (session().connectedAndIdle())
+        sendForThisScreen(QStringLiteral("Reset"));
+}
+
+void Master::clearConsole()
+{
+    ui->txtConsole->setRawText(QString());
+    ui->txtComandos->setFocus();
+}
+
+void Master::showHelp()
+{
+    ui->txtComandos->setEditText(QStringLiteral("Help"));
+    if (!m_help) {
+        m_help = new fmHelp;
+        m_help->setWindowTitle(Traduz(QStringLiteral("Help")));
+        showWindow(m_help);
+    }
+    m_help->txtConsole()->setRawText(ui->txtComparador->rawText());
+}
+
+QString Master::helpPdfName(quint8 idioma)
+{
+    switch (idioma) {
+    case 2:
+        return QStringLiteral("xEDK_USA.pdf");
+    case 3:
+        return QStringLiteral("xEDK_ES.pdf");
+    default:
+        return QStringLiteral("xEDK_BR.pdf");
+    }
+}
+
+void Master::openHelpPdf()
+{
+    // The help files lie beside the program, as Config.vkt does.
+    const QString name = helpPdfName(session().idioma());
+    const QString path = QFileInfo(session().configPath()).absoluteDir().filePath(name);
+    if (!QFileInfo::exists(path)) {
+        dialogs().critical(this, Traduz(QStringLiteral("PDF_AUSENTE_TITULO")),
+                           Traduz(QStringLiteral("PDF_AUSENTE")) + QDir::toNativeSeparators(path));
+        return;
+    }
+    m_shell.open(path);
+}
+
+void Master::maskRecordedAnswer()
+{
+    ui->txtComparador->setRawText(::AutoComparador::mask(ui->txtComparador->rawText(), m_db->maskTexts(),
+                                                       ::AutoComparador::FillerMarks::Remove));
+    saveEdits();
+}
+
+void Master::addMaskText()
+{
+    const auto answer = dialogs().input(this, Traduz(QStringLiteral("m")), Traduz(QStringLiteral("Digite a m.")));
+    if (answer && !answer->isEmpty())
+        writeSucceeded(m_db->addMaskText(*answer));
+}
+
+void Master::openAdjustments()
+{
+    if (m_adjustments) {
+        m_adjustments->activateWindow();
+        return;
+    }
+    m_adjustments = new zAjustes(ScreenContext{session(), exchange(), dialogs()});
+    showWindow(m_adjustments);
+}
+
+void Master::showWindow(QWidget *window)
+{
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    if (m_showWindow)
+        m_showWindow(window);
+    else
+        window->show();
+}
+
+void Master::setBorder(int value)
+{
+    // The two answer boxes share their row; the scroll bar says how much of it the console gets.
+    ui->boxesRow->setStretch(0, value);
+    ui->boxesRow->setStretch(1, ui->HScroll1->maximum() + ui->HScroll1->minimum() - value);
+}

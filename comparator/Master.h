@@ -1,0 +1,82 @@
+#pragma once
+// The free command console: the technician sends any console command, reads the answer beside
+// the one recorded from a known-good board of the same model, and sees at once whether the two
+// match. It is also where recorded answers, their notes, the command list and the masking texts
+// are kept up to date, so it holds one connection to Config.vkt for its bound views.
+
+#include "TestScreen.h"
+
+#include <QPointer>
+#include <functional>
+#include <memory>
+
+namespace Ui {
+class Master;
+}
+class BoundRecordView;
+class Database;
+class Shell;
+class fmHelp;
+class zAjustes;
+
+class Master : public TestScreen
+{
+    Q_OBJECT
+public:
+    static constexpr const char *ScreenId = "1";
+
+    // `showWindow` puts a further window (help, administration) into the main window; without
+    // one the window shows on its own.
+    Master(const ScreenContext &ctx, Shell &shell, std::function<void(QWidget *)> showWindow = {},
+           QWidget *parent = nullptr);
+    ~Master() override;
+
+    void retranslate() override;
+
+    // Decides whether the mark that the answer matches the recorded one shows.
+    void AutoComparador();
+    // Points both bound views at the recorded answer and the notes of `command`.
+    void BuscaDadosGravados(const QString &command);
+
+    // Button handlers, public so the main window's keyboard and the tests reach them alike.
+    void send();
+    void recordAnswer();        // btSalvar
+    void deleteRecordedAnswer(); // btExcluir
+    void saveEdits();           // btSalvarAtualizacoes
+    void addCommand();          // btNovo
+    void deleteCommand();       // btApagar
+    void restartDevice();       // btReiniciar
+    void clearConsole();        // btLimpar
+    void showHelp();            // btHelp
+    void openHelpPdf();         // btHelpPdf
+    void maskRecordedAnswer();  // Command1
+    void addMaskText();         // Command2
+    void openAdjustments();     // Command3
+
+    // The help file of a language, beside the program.
+    static QString helpPdfName(quint8 idioma);
+
+    bool waiting() const { return m_waiting; }
+    fmHelp *helpWindow() const { return m_help; }
+    zAjustes *adjustmentsWindow() const { return m_adjustments; }
+
+private:
+    void handOver(const QString &answer);
+    void fillCommandList();
+    void showLanguageBoxes();
+    void updateDeviceLabel();
+    void setBorder(int value);
+    void sendForThisScreen(const QString &command);
+    bool writeSucceeded(bool ok);
+    void showWindow(QWidget *window);
+
+    std::unique_ptr<Ui::Master> ui;
+    Shell &m_shell;
+    std::function<void(QWidget *)> m_showWindow;
+    std::unique_ptr<Database> m_db;
+    BoundRecordView *m_data1 = nullptr; // the recorded answer (Dados)
+    BoundRecordView *m_data2 = nullptr; // the command's notes (Comandos)
+    QPointer<fmHelp> m_help;
+    QPointer<zAjustes> m_adjustments;
+    bool m_waiting = false;
+};

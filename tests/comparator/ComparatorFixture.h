@@ -1,0 +1,92 @@
+#pragma once
+// What the comparator tests share: a fresh Config.vkt built from the real schema in a temporary
+// folder, a shell that records what it would open, and a console answer framed the way the
+// exchange hands it over.
+
+#include "Database.h"
+#include "DatabaseBuilder.h"
+#include "Shell.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <unistd.h>
+
+class FakeShell : public Shell
+{
+public:
+    QStringList opened;
+    bool open(const QString &pathOrUrl) override
+    {
+        opened << pathOrUrl;
+        return true;
+    }
+};
+
+namespace fixture {
+
+// Config.vkt with the schema and no rows, in `dir`; empty on failure.
+inline QString makeDatabase(const QTemporaryDir &dir)
+{
+    const QString path = dir.filePath(QStringLiteral("Config.vkt"));
+    QString error;
+    if (!DatabaseBuilder::build(QStringLiteral(VEKTO_SOURCE_DIR "/data/schema.sql"), {}, path, &error)) {
+        qWarning("%s", qPrintable(error));
+        return {};
+    }
+    return path;
+}
+
+// CR LF, the echoed command, CR CR LF, the lines each ending CR LF, and the prompt.
+inline QString consoleAnswer(const QString &command, const QStringList &lines,
+                             const QString &prompt = QStringLiteral("[0000002a:0000001b] :-) "))
+{
+    QString text = QStringLiteral("\r\n") + command + QStringLiteral("\r\r\n");
+    for (const QString &line : lines)
+        text += line + QStringLiteral("\r\n");
+    return text + prompt;
+}
+
+// The bytes a phone sends for that answer (what the exchange turns into consoleAnswer()).
+inline QByteArray deviceBytes(const QString &command, const QStringList &lines,
+                              const QString &prompt = QStringLiteral("[0000002a:0000001b] :-) "))
+{
+    QByteArray bytes = command.toUtf8() + "\r\n";
+    for (const QString &line : lines)
+        bytes += line.toUtf8() + '\n';
+    return bytes + prompt.toUtf8();
+}
+
+// Makes the file refuse every write. Permissions are enough for an ordinary user; root writes
+// through them, so there the tables get triggers that refuse the same way a read-only file does.
+inline bool makeUnwritable(const QString &path)
+{
+    if (geteuid() == 0) {
+        const QString name = QStringLiteral("unwritable");
+        bool ok = true;
+        {
+            QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
+            db.setDatabaseName(path);
+            ok = db.open();
+            for (const char *table : {"Dados", "Comandos", "M"}) {
+                for (const char *op : {"INSERT", "UPDATE", "DELETE"}) {
+                    QSqlQuery q(db);
+                    ok = ok && q.exec(QStringLiteral("CREATE TRIGGER ro_%1_%2 BEFORE %2 ON %1 "
+                                                     "BEGIN SELECT RAISE(ABORT, 'attempt to write a readonly "
+                                                     "database'); END")
+                                          .arg(QLatin1String(table), QLatin1String(op)));
+                }
+            }
+            db.close();
+        }
+        QSqlDatabase::removeDatabase(name);
+        if (!ok)
+            return false;
+    }
+    return QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
+}
+
+} // namespace fixture
