@@ -3,7 +3,6 @@
 // quoted text that drifted, a multi-line message whose languages no longer line up.
 #include "Texts.h"
 
-#include <QRegularExpression>
 #include <QtTest>
 
 namespace {
