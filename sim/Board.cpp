@@ -6,7 +6,7 @@
 
 namespace {
 // Answers at least this long are cut in the middle by the unplugging board.
-constexpr qsizetype kLongAnswer = 1024;
+constexpr qsizetype kLongAnswer = 512;
 }
 
 Board::Board(AnswerStore store, SimModel model, Profile profile)

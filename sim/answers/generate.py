@@ -50,19 +50,21 @@ def rails_for(model, family):
         ("vldo10:", 2900.0, "mV", "PP2V9_TOUCH", "PMU", 2),
         ("vldo11:", 1800.0, "mV", "PP1V8_VA", "PMU", 2),
     ]
-    if family == "6":
-        r += [("vbuck6:", 0.0, "mV", "NC", "PMU", 2),
-              ("vldo3:", 3000.0, "mV", "PP3V0_TRISTAR", "PMU", 2),
+    if family in ("6", "6s"):
+        # The Tristar of the older boards hangs on LDO3, its accessory supply on LDO6.
+        r += [("vldo3:", 3000.0, "mV", "PP3V0_TRISTAR", "PMU", 2),
               ("vldo6:", 3300.0, "mV", "PP3V3_ACC", "PMU", 2)]
+    else:
+        r += [("vldo7:", 3000.0, "mV",
+               "PP3V0_TRISTAR_ANT_PROX" if family == "7" else "PP3V0_S2", "PMU", 2),
+              ("vldo6:", 3000.0, "mV", "PP_ACC_VAR", "PMU", 2)]
+    if family == "6":
+        r += [("vbuck6:", 0.0, "mV", "NC", "PMU", 2)]
     else:
         r += [("vbuck6:", 0.0 if family == "6s" else 1250.0, "mV",
                "PP_CAMERA" if family == "6s" else "PP1V25_BUCK6", "PMU", 2),
               ("vbuck7:", 850.0, "mV", "PP0V85_BUCK7", "PMU", 2),
-              ("vbuck8:", 0.0, "mV", "PP_GPU_BUCK8", "GPU", 0),
-              ("vldo7:", 3000.0, "mV",
-               "PP3V0_TRISTAR_ANT_PROX" if family == "7" else
-               "PP3V0_S2" if family in ("8", "X") else "PP3V0_LDO7", "PMU", 2),
-              ("vldo6:", 3000.0, "mV", "PP_ACC_VAR", "PMU", 2)]
+              ("vbuck8:", 0.0, "mV", "PP_GPU_BUCK8", "GPU", 0)]
     if family in ("7", "8", "X"):
         r += [("vbuck9:", 0.0, "mV", "PP_CAMERA", "PMU", 2)]
     if family == "X":
@@ -125,10 +127,10 @@ def pmuadc(model, family, rails):
     lines = ["PMU ADC read all channels", "channel          value"]
     for label, nom, unit, *_ in rails:
         lines.append("%s %s %s" % (label, fmt(reading(model, label, nom), unit), unit))
-    ldo_t = "3" if family == "6" else "7"
+    ldo_t = "3" if family in ("6", "6s") else "7"
     bist = [("BIST ldo%s:" % ldo_t, 3000.0, "mV"), ("BIST ildo%s:" % ldo_t,
             3412.80 if family in ("8", "X") else 1762.50, "uA"),
-            ("BIST buck3:", 1800.0, "mV"), ("BIST ldo6:", 3000.0 if family != "6" else 3300.0, "mV"),
+            ("BIST buck3:", 1800.0, "mV"), ("BIST ldo6:", 3300.0 if family in ("6", "6s") else 3000.0, "mV"),
             ("BIST ildo6:", 820.40, "uA"), ("BIST buck0:", 900.0, "mV")]
     if family == "X":
         bist += [("BIST buck4:", 1100.0, "mV"), ("BIST buck3_sw2:", 1800.0, "mV")]
