@@ -14,6 +14,7 @@ namespace {
 constexpr int kPaceMs = 10;
 // Never more than one tick's worth at once after an idle spell.
 constexpr double kMaxCredit = 256;
+constexpr int kUnplugDelayMs = 1500;
 }
 
 PtyServer::PtyServer(Board board, QObject *parent) : QObject(parent), m_board(std::move(board))
@@ -82,9 +83,13 @@ void PtyServer::onPace()
         }
     }
     if (m_unsent.isEmpty() && m_board.pulledPlug()) {
+        // The kernel drops what the reader has not fetched when the master closes, so the cable
+        // goes only after the tool has had time to read the half answer.
         m_pace.stop();
-        closePty();
-        emit unplugged();
+        QTimer::singleShot(kUnplugDelayMs, this, [this] {
+            closePty();
+            emit unplugged();
+        });
         return;
     }
     if (m_unsent.isEmpty() && !m_board.hasOutput())
