@@ -3,6 +3,7 @@
 // with nothing written, because only an attempt reveals another program's lock.
 #include "Database.h"
 
+#include <QAtomicInteger>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
