@@ -1,0 +1,134 @@
+#pragma once
+// The shipped demo recordings, derived from the simulated phone's good boards: for every model
+// and every command of the list, the console text the tool receives from the simulator, with the
+// board's identifying texts (serial numbers, NAND UID) masked as the masking tool would leave
+// them. The seed files data/seed/40_m_demo.sql and 50_dados_demo.sql are written from here and
+// checked against it, so they cannot drift from the simulator's answers.
+
+#include "AutoComparador.h"
+#include "Board.h"
+#include "ConsoleExchange.h"
+#include "SimCatalog.h"
+
+#include <QList>
+#include <QRegularExpression>
+#include <QSet>
+#include <QStringList>
+#include <QTextStream>
+#include <algorithm>
+
+namespace demo {
+
+struct Recording
+{
+    QString model;
+    QString command;
+    QString console;  // what the console shows after the exchange
+    QString recorded; // the same with the masks applied
+};
+
+// The console text of one exchange with a fresh good board: CR LF, then every byte converted
+// the way the exchange converts the slices it reads.
+inline QString consoleText(const SimModel &model, const QString &command)
+{
+    Board board(AnswerStore(), model, Profile::Good);
+    board.receive(command.toUtf8() + '\r');
+    QByteArray bytes;
+    while (board.hasOutput())
+        bytes += board.takeOutput(1 << 20);
+    return QStringLiteral("\r\n") + ConsoleExchange::convertSlice(QString::fromUtf8(bytes));
+}
+
+// Texts that tell one board from another: the serial numbers in "syscfg list" and the NAND UID.
+inline QStringList masks()
+{
+    static const QRegularExpression syscfg(QStringLiteral("^(?:SrNm|MLB#)\\s+(\\S+)"),
+                                           QRegularExpression::MultilineOption);
+    static const QRegularExpression uid(QStringLiteral("^UID: (\\S+)"), QRegularExpression::MultilineOption);
+    QSet<QString> found;
+    for (const SimModel &model : SimCatalog::models()) {
+        Board board(AnswerStore(), model, Profile::Good);
+        for (const auto &[command, pattern] :
+             {std::pair{QStringLiteral("syscfg list"), &syscfg}, std::pair{QStringLiteral("nanduid"), &uid}}) {
+            const QString body = QString::fromUtf8(board.answerBody(command));
+            for (auto it = pattern->globalMatch(body); it.hasNext();)
+                found.insert(it.next().captured(1));
+        }
+    }
+    return AutoComparador::longestFirst(QStringList(found.begin(), found.end()));
+}
+
+inline QList<Recording> recordings(const QStringList &commands, const QStringList &maskTexts)
+{
+    QList<Recording> rows;
+    for (const SimModel &model : SimCatalog::models()) {
+        for (const QString &command : commands) {
+            const QString console = consoleText(model, command);
+            rows.append({model.name, command, console,
+                         AutoComparador::mask(console, maskTexts, AutoComparador::FillerMarks::Remove)});
+        }
+    }
+    return rows;
+}
+
+// An SQL text literal that stays readable: CR LF pairs are written as line breaks inside a
+// replace(), a lone CR or LF as char(13) or char(10); the value comes back byte for byte.
+inline QString sqlText(const QString &text)
+{
+    QStringList parts;
+    QString pending; // CR LF pairs already turned into LF
+    const auto flush = [&] {
+        if (pending.isEmpty())
+            return;
+        const QString literal = u'\'' + QString(pending).replace(u'\'', QStringLiteral("''")) + u'\'';
+        parts << (pending.contains(u'\n') ? QStringLiteral("replace(") + literal + QStringLiteral(", char(10), char(13, 10))")
+                                          : literal);
+        pending.clear();
+    };
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar c = text.at(i);
+        if (c == u'\r' && i + 1 < text.size() && text.at(i + 1) == u'\n') {
+            pending += u'\n';
+            ++i;
+        } else if (c == u'\r' || c == u'\n') {
+            flush();
+            parts << QStringLiteral("char(%1)").arg(c.unicode());
+        } else {
+            pending += c;
+        }
+    }
+    flush();
+    return parts.isEmpty() ? QStringLiteral("''") : parts.join(QStringLiteral(" || "));
+}
+
+inline QString maskSeed(const QStringList &maskTexts)
+{
+    QString out;
+    QTextStream s(&out);
+    s << "-- Demo masking texts: the serial numbers and NAND UIDs of the simulated boards, so that\n"
+         "-- recorded answers carry \"xxxxx\u00AE\" in their place. Illustrative values; written by\n"
+         "-- tests/comparator/tst_demodados (VEKTO_WRITE_DEMO_SEEDS=data/seed), which also checks them.\n";
+    for (const QString &m : maskTexts)
+        s << "INSERT INTO M (String) VALUES (" << sqlText(m) << ");\n";
+    return out;
+}
+
+inline QString dadosSeed(const QList<Recording> &rows)
+{
+    QString out;
+    QTextStream s(&out);
+    s << "-- Demo recordings: the simulated phone's good-board answer to every listed command, per\n"
+         "-- model, exactly as the console shows it (masked like the masking tool leaves it). These are\n"
+         "-- illustrative, not readings of real boards. Written by tests/comparator/tst_demodados\n"
+         "-- (VEKTO_WRITE_DEMO_SEEDS=data/seed), which also checks them against the simulator.\n";
+    for (const Recording &r : rows) {
+        s << "INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES (" << sqlText(r.model) << ", "
+          << sqlText(r.command) << ",\n"
+          << sqlText(r.recorded) << ",\n"
+          << "'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', "
+             "'Grabación de demostración (placa buena simulada).');\n";
+    }
+    return out;
+}
+
+} // namespace demo
