@@ -6,11 +6,12 @@
 #include <QObject>
 #include <QString>
 #include <QTimer>
+#include <functional>
+#include <optional>
 
 class ConsoleExchange;
 class Session;
 class SerialPort;
-class Database;
 
 class ConnectionController : public QObject
 {
@@ -18,6 +19,11 @@ class ConnectionController : public QObject
 public:
     static constexpr int ValidationIntervalMs = 300;
     static constexpr int ReidentifyIntervalMs = 50;
+    static constexpr int MinimumAnswerLength = 41; // a shorter first answer is not the device yet
+    static constexpr int GiveUpAfterTicks = 10;
+
+    // Regulatory model number ("A1778") to model name ("IP 7"); nothing when unknown.
+    using ModelLookup = std::function<std::optional<QString>(const QString &modelNumber)>;
 
     ConnectionController(Session &session, ConsoleExchange &exchange, SerialPort &port,
                          QObject *parent = nullptr);
@@ -25,6 +31,15 @@ public:
     // The connect button (Botoes element 1). `portName` is the device picked in cbPortas;
     // `portNumberText` the text the COM rules and the messages use (the COM number on Windows).
     void connectClicked(const QString &portName, const QString &portNumberText);
+
+    // Without a lookup every model number counts as unknown.
+    void setModelLookup(ModelLookup lookup) { m_modelLookup = std::move(lookup); }
+    // The "ports above COM 16" rule; on by default only where ports are COM numbers.
+    void setComNumberRule(bool on) { m_comNumberRule = on; }
+    bool comNumberRule() const { return m_comNumberRule; }
+
+    // The connection label's word for a connection flag.
+    static QString labelKey(const QString &flag);
 
     void onTimerValidaPorta();
     void onTimerVerificaVersao();
@@ -49,11 +64,17 @@ signals:
     void refillPorts();
     void connected(); // V4: screens waiting for a connection may enable their start buttons
     void disconnected();
+    void connectionLabelChanged(const QString &key); // follows the session's connection flag
 
 private:
     void disconnectPort();
-    void recognise(); // V5-V7
+    void giveUp();
+    void onPortLost();
+    void recognise(bool reidentifying); // V5-V7
     void startReidentification(); // T1
+    void setButtonCaption(const QString &key);
+    void setStatusLight(const QString &name);
+    void setModelNumber(const QString &text);
 
     Session &m_session;
     ConsoleExchange &m_exchange;
@@ -66,4 +87,10 @@ private:
     QString m_modelNumber;
     QString m_portNumberText;
     bool m_modelComboVisible = true;
+#ifdef Q_OS_WIN
+    bool m_comNumberRule = true;
+#else
+    bool m_comNumberRule = false;
+#endif
+    ModelLookup m_modelLookup;
 };
