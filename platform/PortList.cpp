@@ -72,7 +72,7 @@ QList<PortEntry> PortList::comPorts()
         DWORD size = sizeof config;
         if (GetDefaultCommConfigW(name.c_str(), &config, &size)) {
             const QString number = QString::number(n);
-            ports.append({QStringLiteral("COM") + number, number, number});
+            ports.append({QStringLiteral("COM") + number, number, number, {}});
         }
     }
 #endif
@@ -93,14 +93,25 @@ QList<PortEntry> PortList::serialDevices()
                          .arg(info.vendorIdentifier(), 4, 16, QLatin1Char('0'))
                          .arg(info.productIdentifier(), 4, 16, QLatin1Char('0'));
         const QString path = info.systemLocation();
-        QString display = path;
-        if (!about.isEmpty())
-            display += QStringLiteral(" — ") + about.join(QStringLiteral(", "));
-        ports.append({path, display, deviceName(path)});
+        const QString description = about.join(QStringLiteral(", "));
+        const QString display = description.isEmpty() ? path : path + QStringLiteral(" — ") + description;
+        ports.append({path, display, deviceName(path), description});
     }
     std::sort(ports.begin(), ports.end(),
               [](const PortEntry &a, const PortEntry &b) { return a.portName < b.portName; });
     return ports;
+}
+
+QString PortList::numberTextFor(const QString &portName)
+{
+    const QString upper = portName.toUpper();
+    if (upper.startsWith(QLatin1String("COM"))) {
+        bool numeric = false;
+        upper.mid(3).toInt(&numeric);
+        if (numeric)
+            return portName.mid(3);
+    }
+    return deviceName(portName);
 }
 
 QString PortList::simulatorFolder()
@@ -128,7 +139,7 @@ QList<PortEntry> PortList::simulatorPorts(const QString &folder)
         QString description = lines.value(1).trimmed();
         if (description.isEmpty())
             description = QStringLiteral("vekto-sim");
-        ports.append({path, path + QStringLiteral(" — ") + description, deviceName(path)});
+        ports.append({path, path + QStringLiteral(" — ") + description, deviceName(path), description});
     }
     return ports;
 }

@@ -13,6 +13,7 @@ struct PortEntry
     QString portName;    // what to open
     QString displayText; // what the port list shows
     QString numberText;  // the COM number on Windows (for the messages); the device name elsewhere
+    QString description; // what the device says it is (USB vendor/product, simulated model)
 
     friend bool operator==(const PortEntry &, const PortEntry &) = default;
 };
@@ -40,6 +41,9 @@ public:
     // line 2 a description); dead processes and vanished devices are left out.
     static QList<PortEntry> simulatorPorts(const QString &folder = simulatorFolder());
     static QString simulatorFolder();
+    // The text the messages use for a port given by name: "5" for "COM5", "ttyUSB0" for
+    // "/dev/ttyUSB0".
+    static QString numberTextFor(const QString &portName);
 
 signals:
     void changed();

@@ -77,6 +77,23 @@ private slots:
         QVERIFY(PortList::simulatorPorts(QStringLiteral("/nonexistent/vekto-sim")).isEmpty());
     }
 
+    void numberTextOfAPortName_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("number");
+        QTest::newRow("COM5") << "COM5" << "5";
+        QTest::newRow("com17") << "com17" << "17";
+        QTest::newRow("USB device") << "/dev/ttyUSB0" << "ttyUSB0";
+        QTest::newRow("pseudo-terminal") << "/dev/pts/3" << "pts/3";
+        QTest::newRow("COM without number") << "COMX" << "COMX";
+    }
+    void numberTextOfAPortName()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, number);
+        QCOMPARE(PortList::numberTextFor(name), number);
+    }
+
     void deviceNamesStripDev()
     {
         QTemporaryDir folder;
