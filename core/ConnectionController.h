@@ -1,7 +1,8 @@
 #pragma once
-// Connecting and disconnecting (C1-C5), validating a fresh connection (V1-V7) and repeating the
-// model recognition after a rejected first command (T1-T4). It holds no widgets: the main window
-// paints what it reports and shows the message keys it emits, the command line prints them.
+// Connecting and disconnecting, validating a fresh connection (including recognising the phone's
+// model from its first answer) and asking again after a rejected first command. It holds no
+// widgets: the main window paints what it reports and shows the message keys it emits, the
+// command line prints them.
 
 #include <QObject>
 #include <QString>
@@ -62,7 +63,7 @@ signals:
     void message(const QString &key, const QString &porta); // the main window shows Mensagem
     void focusModelCombo();
     void refillPorts();
-    void connected(); // V4: screens waiting for a connection may enable their start buttons
+    void connected(); // the device answered: waiting screens may enable their start buttons
     void disconnected();
     void connectionLabelChanged(const QString &key); // follows the session's connection flag
 
@@ -70,8 +71,8 @@ private:
     void disconnectPort();
     void giveUp();
     void onPortLost();
-    void recognise(bool reidentifying); // V5-V7
-    void startReidentification(); // T1
+    void recognise(bool reidentifying); // model number from the console, then the model name
+    void startReidentification(); // asks for the model once more
     void setButtonCaption(const QString &key);
     void setStatusLight(const QString &name);
     void setModelNumber(const QString &text);

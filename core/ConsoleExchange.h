@@ -38,9 +38,9 @@ public:
     QString commandField() const { return m_commandField; }
     void setCommandField(const QString &command) { m_commandField = command; }
 
-    // Sends the command field's text (S1-S4).
+    // Sends the command field's text with a CR and starts collecting the answer.
     void EnviaComando();
-    // Appends a received slice to the console, each LF becoming CR LF (R3).
+    // Appends a received slice to the console, each LF becoming CR LF.
     void AdicionaDadosConsole(const QByteArray &slice);
 
     // Ends a running exchange at once with what has arrived (the device vanished); no-op when idle.

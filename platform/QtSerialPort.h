@@ -6,7 +6,7 @@
 
 #include "SerialPort.h"
 
-#include <QSerialPort>
+class QSerialPort;
 
 class QtSerialPortLink : public SerialPort
 {
@@ -24,13 +24,13 @@ public:
     // The platform's reason for the last failed open, for messages that name it.
     QString lastErrorText() const { return m_lastErrorText; }
 
-    // The number an open failure of the platform stands for.
-    static int mapOpenError(QSerialPort::SerialPortError error);
+    // The number an open failure of the platform (a QSerialPort::SerialPortError) stands for.
+    static int mapOpenError(int serialPortError);
 
 private:
-    void onError(QSerialPort::SerialPortError error);
+    void onError(int serialPortError);
 
-    QSerialPort m_port;
+    QSerialPort *m_port; // a child: callers never see QSerialPort
     QByteArray m_pending; // received before the device vanished, still owed to readAll()
     QString m_lastErrorText;
     bool m_lostReported = false;

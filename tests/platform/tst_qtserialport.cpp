@@ -3,6 +3,7 @@
 
 #include "QtSerialPort.h"
 
+#include <QSerialPort>
 #include <QSignalSpy>
 #include <QtTest>
 #include <fcntl.h>
