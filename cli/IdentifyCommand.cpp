@@ -2,7 +2,7 @@
 // recognised model, or the English text of the message the window would have shown.
 #include "CliCommands.h"
 #include "CliOutput.h"
-#include "ModelLookup.h"
+#include "Database.h"
 
 #include "ConnectionController.h"
 #include "ConsoleExchange.h"
@@ -58,7 +58,7 @@ int identify(const QStringList &args)
     QtSerialPortLink port;
     ConsoleExchange exchange(session, port);
     ConnectionController controller(session, exchange, port);
-    controller.setModelLookup([dbPath](const QString &number) { return modelRef(dbPath, number); });
+    controller.setModelLookup([dbPath](const QString &number) { return Database(dbPath).modeloRef(number); });
 
     bool recognised = false;
     bool anyMessage = false;
