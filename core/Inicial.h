@@ -1,0 +1,77 @@
+#pragma once
+// The main window: an MDI frame that owns the connection controls, the model choice and the
+// menu of test screens. Which screens exist is decided by whoever builds the program: each one
+// is registered with its menu element, so a screen not built yet is simply absent from the menu.
+
+#include "TestScreen.h"
+
+#include <QMainWindow>
+#include <QMap>
+#include <QPointer>
+#include <functional>
+
+namespace Ui { class Inicial; }
+class ConnectionController;
+class PortList;
+class QMdiSubWindow;
+class QPushButton;
+
+class Inicial : public QMainWindow
+{
+    Q_OBJECT
+public:
+    using ScreenFactory = std::function<QWidget *(const ScreenContext &)>;
+
+    static const QStringList &modelos();
+
+    Inicial(const ScreenContext &context, ConnectionController &connection, PortList &ports,
+            QWidget *parent = nullptr);
+    ~Inicial() override;
+
+    // Adds menu element `botao` with its tooltip key; `testScreen` screens are closed when the
+    // language changes.
+    void registerScreen(int botao, const QString &name, const QString &tooltipKey, ScreenFactory factory,
+                        bool testScreen = true);
+
+    // Shows the single instance of a registered screen, creating it when it is not open.
+    QWidget *openScreen(const QString &name);
+    QWidget *screen(const QString &name) const;
+    void closeTestScreens();
+
+    void Traducao_Form_Inicial();
+    // The status routine: "Branco", "Amarelo" or "Verde".
+    void setStatus(const QString &name);
+    QString status() const { return m_status; }
+
+    // Remembers the selected model in Ultimo (at close) and restores it (at start).
+    void gravaUltimo();
+    void restauraUltimo();
+
+    void fillPorts();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    struct Registration
+    {
+        int botao = 0;
+        QString tooltipKey;
+        ScreenFactory factory;
+        bool testScreen = true;
+        QPushButton *button = nullptr;
+        QPointer<QMdiSubWindow> window;
+    };
+
+    void wireConnection();
+    void selectModel(const QString &modelo);
+    void paintConnectionState();
+    QString connectionWord() const;
+
+    Ui::Inicial *ui;
+    ScreenContext m_context;
+    ConnectionController &m_connection;
+    PortList &m_ports;
+    QMap<QString, Registration> m_screens;
+    QString m_status;
+};
