@@ -1,6 +1,7 @@
 // vekto-cli: the tool's engines without a window, for scripts, support and tests.
 #include "CliCommands.h"
 #include "CliOutput.h"
+#include "JudgeCompare.h"
 
 #include <QCoreApplication>
 #include <functional>
@@ -15,11 +16,15 @@ int main(int argc, char **argv)
         {QStringLiteral("ports"), Cli::ports},
         {QStringLiteral("send"), Cli::send},
         {QStringLiteral("identify"), Cli::identify},
+        {QStringLiteral("judge"), [](const QStringList &a) {
+             QTextStream out(stdout), err(stderr);
+             return a.value(0) == QLatin1String("compare") ? runJudgeCompare(a.mid(1), out, err) : (Cli::err(QStringLiteral("usage: vekto-cli judge compare ...")), 2);
+         }},
     };
     const QStringList args = app.arguments().mid(1);
     const auto command = args.isEmpty() ? commands.end() : commands.find(args.first());
     if (command == commands.end()) {
-        Cli::err(QStringLiteral("usage: vekto-cli ports | send --port P TEXT | identify --port P [--db FILE]"));
+        Cli::err(QStringLiteral("usage: vekto-cli ports | send --port P TEXT | identify --port P [--db FILE] | judge compare --model M --command C --answer FILE [--db FILE] [--json]"));
         return 2;
     }
     return command->second(args.mid(1));
