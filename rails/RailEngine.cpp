@@ -55,9 +55,9 @@ std::optional<QString> milivoltsToVolts(const QString &milivolts)
     return ConverteMilivolts(milivolts.contains(u'.') ? milivolts : milivolts + QStringLiteral(".0"));
 }
 
-RailReading RailEngine::readRail(const QString &answer, const RailReference &row, const RailSettings &settings)
+RailMeasurement RailEngine::readRail(const QString &answer, const RailReference &row, const RailSettings &settings)
 {
-    RailReading reading;
+    RailMeasurement reading;
     reading.malha = row.malha;
     if (row.reft.isEmpty())
         return reading;
@@ -105,10 +105,10 @@ RailReading RailEngine::readRail(const QString &answer, const RailReference &row
     return reading;
 }
 
-QList<RailReading> RailEngine::ProcessaLeituras(const QString &answer, const QList<RailReference> &rows,
+QList<RailMeasurement> RailEngine::ProcessaLeituras(const QString &answer, const QList<RailReference> &rows,
                                                 const RailSettings &settings)
 {
-    QList<RailReading> readings;
+    QList<RailMeasurement> readings;
     if (answer.isEmpty())
         return readings;
     for (const RailReference &row : rows) {
@@ -118,7 +118,7 @@ QList<RailReading> RailEngine::ProcessaLeituras(const QString &answer, const QLi
     return readings;
 }
 
-RailVerdict RailEngine::verdict(const RailReading &reading, const QString &refv, double tolerancePercent)
+RailVerdict RailEngine::verdict(const RailMeasurement &reading, const QString &refv, double tolerancePercent)
 {
     if (refv.isEmpty())
         return RailVerdict::None;

@@ -19,7 +19,7 @@ struct RailReference
 enum class RailUnit { None, Volts, Milliamps };
 
 // What one row receives from a reading.
-struct RailReading
+struct RailMeasurement
 {
     QString malha;
     QString leitura; // "0.850 V", "12,3 mA", "0 V" or the no-reading text
@@ -42,15 +42,15 @@ class RailEngine
 {
 public:
     // Readings of every row with a label, in the order of `rows`; rows without a label are left out.
-    static QList<RailReading> ProcessaLeituras(const QString &answer, const QList<RailReference> &rows,
+    static QList<RailMeasurement> ProcessaLeituras(const QString &answer, const QList<RailReference> &rows,
                                                const RailSettings &settings);
 
     // One row: label search, unit, percent, time-out and the cutting of decimals.
-    static RailReading readRail(const QString &answer, const RailReference &row, const RailSettings &settings);
+    static RailMeasurement readRail(const QString &answer, const RailReference &row, const RailSettings &settings);
 
     // Pass when the deviation is within `tolerancePercent`, fail when it is beyond or when a
     // referenced rail gave no reading, none when the row has no reference to judge against.
-    static RailVerdict verdict(const RailReading &reading, const QString &refv, double tolerancePercent);
+    static RailVerdict verdict(const RailMeasurement &reading, const QString &refv, double tolerancePercent);
 
     static constexpr double DefaultTolerancePercent = 5.0;
 };

@@ -43,6 +43,7 @@ private slots:
         QTest::newRow("pass")
             << "\r\nbuckcheck 1\r\r\nbuck1: target 850 mV, measured 851 mV : PASS\r\r\n[0:0] :-) "
             << QStringList{"   buck1: Referência: 0.850 V - Leitura:  0.851 V : PASS"} << QList<bool>{true};
+        // The list numbers its own lines: the check of buck 2 is its first line.
         QTest::newRow("fail")
             // The list numbers its own lines: a check of buck 2 is its first line.
             << "\r\nbuckcheck 2\r\r\nbuck2: target 1234 mV, measured 0 mV : FAIL\r\r\n"

@@ -77,7 +77,7 @@ private slots:
         RailSettings settings;
         settings.voltDecimals = voltDecimals;
         settings.ampDecimals = ampDecimals;
-        const RailReading r = RailEngine::readRail(answerWith(lines), row, settings);
+        const RailMeasurement r = RailEngine::readRail(answerWith(lines), row, settings);
         QCOMPARE(r.malha, QStringLiteral("PP_CPU_NET"));
         QCOMPARE(r.leitura, leitura);
         QCOMPARE(r.porc, porc);
@@ -87,7 +87,7 @@ private slots:
     void valueWithNoBlankBehind()
     {
         // The answer ends right after the value: nothing marks its end.
-        const RailReading r = RailEngine::readRail(QStringLiteral("PP_CPU 850"),
+        const RailMeasurement r = RailEngine::readRail(QStringLiteral("PP_CPU 850"),
                                                    {QStringLiteral("N"), QStringLiteral("PP_CPU"), QStringLiteral("0.850"), {}},
                                                    {});
         QCOMPARE(r.leitura, QStringLiteral("Sem Medição*"));
@@ -106,7 +106,7 @@ private slots:
             {QStringLiteral("D"), QStringLiteral("buck1"), QStringLiteral("1.100"), {}},
         };
         const QString answer = answerWith(QStringLiteral("buck0 851 mV\r\r\nbuck1 tim mV\r\r\nldo3 1799 mV\r\r\n"));
-        const QList<RailReading> out = RailEngine::ProcessaLeituras(answer, rows, {});
+        const QList<RailMeasurement> out = RailEngine::ProcessaLeituras(answer, rows, {});
         QCOMPARE(out.size(), 3);
         QCOMPARE(out[0].malha, QStringLiteral("A"));
         QCOMPARE(out[0].leitura, QStringLiteral("0.851 V"));
@@ -140,7 +140,7 @@ private slots:
         QFETCH(bool, measured);
         QFETCH(QString, refv);
         QFETCH(int, expected);
-        RailReading r;
+        RailMeasurement r;
         r.porc = porc;
         r.measured = measured;
         QCOMPARE(int(RailEngine::verdict(r, refv, RailEngine::DefaultTolerancePercent)), expected);
