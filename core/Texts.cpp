@@ -2,7 +2,6 @@
 
 #include <QFile>
 #include <QHash>
-#include <QTextStream>
 
 namespace {
 
@@ -23,25 +22,66 @@ QString unescape(const QString &cell)
     return out;
 }
 
-// Rows of a tab-separated table; lines starting with "#" and empty lines are comments.
-QList<QStringList> readTable(const QString &resource)
+struct Row
 {
-    QList<QStringList> rows;
-    QFile file(resource);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-        return rows;
-    QTextStream in(&file);
-    in.setEncoding(QStringConverter::Utf8);
-    while (!in.atEnd()) {
-        const QString line = in.readLine();
-        if (line.isEmpty() || line.startsWith(u'#'))
+    int line = 0; // 1-based line of the table, for the problem reports
+    QStringList cells;
+};
+
+// Rows of a tab-separated table; lines starting with "#" and empty lines are comments.
+QList<Row> splitRows(QString contents)
+{
+    if (contents.startsWith(QChar(0xFEFF)))
+        contents.remove(0, 1); // a byte-order mark left by an editor
+    QList<Row> rows;
+    const QStringList lines = contents.split(u'\n');
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        QString text = lines[i];
+        if (text.endsWith(u'\r'))
+            text.chop(1);
+        if (text.isEmpty() || text.startsWith(u'#'))
             continue;
-        QStringList cells = line.split(u'\t');
-        for (QString &c : cells)
+        Row row{int(i + 1), text.split(u'\t')};
+        for (QString &c : row.cells)
             c = unescape(c);
-        rows.append(cells);
+        rows.append(row);
     }
     return rows;
+}
+
+// Fills `into` and `order` from one table; a short row is skipped, a long one keeps its first
+// cells, and both are reported, as are empty keys and a key listed twice (the first row stays).
+void loadRows(const QString &name, const QString &contents, qsizetype cells, QHash<QString, QStringList> &into,
+              QStringList &order, QStringList &problems)
+{
+    for (const Row &row : splitRows(contents)) {
+        const QString where = QStringLiteral("%1 line %2").arg(name).arg(row.line);
+        if (row.cells.size() != cells)
+            problems << QStringLiteral("%1: %2 cells instead of %3").arg(where).arg(row.cells.size()).arg(cells);
+        if (row.cells.size() < cells)
+            continue;
+        const QString &key = row.cells[0];
+        if (key.isEmpty()) {
+            problems << where + QStringLiteral(": empty key");
+            continue;
+        }
+        if (into.contains(key)) {
+            problems << QStringLiteral("%1: key \"%2\" is listed twice").arg(where, key);
+            continue;
+        }
+        into.insert(key, row.cells.mid(1, cells - 1));
+        order.append(key);
+    }
+}
+
+QString readResource(const QString &resource, QStringList &problems)
+{
+    QFile file(resource);
+    if (!file.open(QIODevice::ReadOnly)) {
+        problems << QStringLiteral("%1: cannot be opened (%2)").arg(resource, file.errorString());
+        return {};
+    }
+    return QString::fromUtf8(file.readAll());
 }
 
 struct Tables
@@ -50,20 +90,20 @@ struct Tables
     QStringList dictionaryOrder;
     QHash<QString, QStringList> messages;   // key -> icon, title/text pt, en, es
     QStringList messageOrder;
+    QStringList problems;
 
     Tables()
     {
-        for (const QStringList &row : readTable(QStringLiteral(":/texts/dictionary.tsv"))) {
-            if (row.size() < 4)
-                continue;
-            dictionary.insert(row[0], row.mid(1, 3));
-            dictionaryOrder.append(row[0]);
-        }
-        for (const QStringList &row : readTable(QStringLiteral(":/texts/messages.tsv"))) {
-            if (row.size() < 8)
-                continue;
-            messages.insert(row[0], row.mid(1, 7));
-            messageOrder.append(row[0]);
+        const QString dictionaryFile = QStringLiteral(":/texts/dictionary.tsv");
+        const QString messagesFile = QStringLiteral(":/texts/messages.tsv");
+        loadRows(dictionaryFile, readResource(dictionaryFile, problems), Texts::kDictionaryCells, dictionary,
+                 dictionaryOrder, problems);
+        loadRows(messagesFile, readResource(messagesFile, problems), Texts::kMessageCells, messages, messageOrder,
+                 problems);
+        for (const QString &key : std::as_const(messageOrder)) {
+            const QString icon = messages.value(key).value(0).trimmed();
+            if (icon != QLatin1String("16") && icon != QLatin1String("64"))
+                problems << QStringLiteral("%1: %2 has the icon \"%3\" (16 or 64 expected)").arg(messagesFile, key, icon);
         }
     }
 };
@@ -113,6 +153,20 @@ QStringList dictionaryKeys()
 QStringList messageKeys()
 {
     return tables().messageOrder;
+}
+
+QStringList tableProblems()
+{
+    return tables().problems;
+}
+
+QStringList checkTable(const QString &contents, qsizetype cells)
+{
+    QHash<QString, QStringList> rows;
+    QStringList order;
+    QStringList problems;
+    loadRows(QStringLiteral("table"), contents, cells, rows, order, problems);
+    return problems;
 }
 
 } // namespace Texts

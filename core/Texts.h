@@ -25,7 +25,20 @@ struct Message
 // into the texts that name it. Unknown key or language: nothing.
 std::optional<Message> Mensagem(const QString &key, quint8 idioma, const QString &porta = {});
 
+// Keys in the order the tables list them.
 QStringList dictionaryKeys();
 QStringList messageKeys();
+
+// What went wrong while reading the tables: a resource that is not compiled in, a row with the
+// wrong number of cells, an empty key, an unknown icon, a key listed twice (the later row would
+// silently replace the earlier one). Empty when both tables are sound; the tests insist on it.
+QStringList tableProblems();
+
+// The cells of one row: key and the three languages; key, icon and title and text per language.
+inline constexpr qsizetype kDictionaryCells = 4;
+inline constexpr qsizetype kMessageCells = 8;
+
+// The same checks on the text of an edited table, before it is compiled in.
+QStringList checkTable(const QString &contents, qsizetype cells);
 
 } // namespace Texts
