@@ -1,6 +1,9 @@
 #include "Dialogs.h"
 
+#include "Session.h"
 #include "Texts.h"
+
+#include <QPushButton>
 
 #include <QInputDialog>
 #include <QMessageBox>
@@ -28,8 +31,13 @@ void QtDialogs::critical(QWidget *parent, const QString &title, const QString &t
 
 bool QtDialogs::question(QWidget *parent, const QString &title, const QString &text)
 {
-    return QMessageBox::question(parent, title, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
-           == QMessageBox::Yes;
+    QMessageBox box(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, parent);
+    box.setDefaultButton(QMessageBox::No);
+    if (m_session) {
+        box.button(QMessageBox::Yes)->setText(m_session->Traduz(QStringLiteral("Sim")));
+        box.button(QMessageBox::No)->setText(m_session->Traduz(QStringLiteral("Não")));
+    }
+    return box.exec() == QMessageBox::Yes;
 }
 
 std::optional<QString> QtDialogs::input(QWidget *parent, const QString &title, const QString &prompt,

@@ -25,14 +25,21 @@ public:
                                          const QString &initial = {}) = 0;
 };
 
-// The real boxes, QMessageBox and QInputDialog.
+class Session;
+
+// The real boxes, QMessageBox and QInputDialog, with Yes/No in the session language once a
+// session exists (before that, at start-up, Qt's own buttons).
 class QtDialogs : public Dialogs
 {
 public:
+    void setSession(const Session *session) { m_session = session; }
     void Mensagem(QWidget *parent, const QString &key, quint8 idioma, const QString &porta = {}) override;
     void information(QWidget *parent, const QString &title, const QString &text) override;
     void critical(QWidget *parent, const QString &title, const QString &text) override;
     bool question(QWidget *parent, const QString &title, const QString &text) override;
     std::optional<QString> input(QWidget *parent, const QString &title, const QString &prompt,
                                  const QString &initial = {}) override;
+
+private:
+    const Session *m_session = nullptr;
 };

@@ -1,0 +1,97 @@
+-- Config.vkt: the working database beside the program.
+-- Every column holds text except Master.TIPO, the rail class the rail screens compare as a
+-- number. Plain TEXT (binary collation) keeps ordering and matching exactly as the text stands.
+-- No table has a primary key: rows are found by their logical keys, which the indexes cover.
+
+-- Console commands offered in the command console, with a help text per language.
+CREATE TABLE Comandos (
+    Comando TEXT,
+    Info    TEXT,
+    Info2   TEXT,
+    Info3   TEXT
+);
+CREATE INDEX Comandos_Comando ON Comandos (Comando);
+
+-- Console answers recorded from known-good boards, one per model and command.
+CREATE TABLE Dados (
+    Aparelho TEXT,
+    Comando  TEXT,
+    Dados    TEXT,
+    Info     TEXT,
+    Info2    TEXT,
+    Info3    TEXT
+);
+CREATE INDEX Dados_Aparelho_Comando ON Dados (Aparelho, Comando);
+
+-- Texts masked in console answers before two answers are compared.
+CREATE TABLE M (
+    String TEXT
+);
+CREATE INDEX M_String ON M (String);
+
+-- Rail references per model and net, with the last reading and three recorded ones.
+CREATE TABLE Master (
+    Modelo  TEXT,
+    Malha   TEXT,
+    Ci      TEXT,
+    TIPO    INTEGER,
+    Orig    TEXT,
+    Reft    TEXT,
+    refv    TEXT,
+    Leitura TEXT,
+    Porc    TEXT,
+    G1      TEXT,
+    G2      TEXT,
+    G3      TEXT
+);
+CREATE INDEX Master_Modelo_Malha ON Master (Modelo, Malha);
+CREATE INDEX Master_Modelo_TIPO ON Master (Modelo, TIPO);
+
+-- RF rail reference voltages per model and modem type ("T", "I" or "Q").
+CREATE TABLE Rf (
+    Modelo     TEXT,
+    Tipo       TEXT,
+    Malha      TEXT,
+    Componente TEXT,
+    Referencia TEXT
+);
+CREATE INDEX Rf_Modelo_Tipo_Malha ON Rf (Modelo, Tipo, Malha);
+
+-- Expected I2C devices per model: bus digit, address, "-", description.
+CREATE TABLE i (
+    Aparelho TEXT,
+    i        TEXT
+);
+CREATE INDEX i_Aparelho_i ON i (Aparelho, i);
+
+-- Regulatory model numbers, framed "AST" + number + "098", and the model name they mean.
+CREATE TABLE Modelos (
+    Modelo TEXT,
+    Ref    TEXT
+);
+CREATE INDEX Modelos_Modelo ON Modelos (Modelo);
+
+-- One row: the model selected when the main window was last closed.
+CREATE TABLE Ultimo (
+    Modelo TEXT
+);
+
+-- One row: the last choices of the rail screens' option lists.
+CREATE TABLE Combos (
+    Combo1  TEXT,
+    Combo2  TEXT,
+    Combo3  TEXT,
+    Combo4  TEXT,
+    Combo5  TEXT,
+    Combo6  TEXT,
+    Combo7  TEXT,
+    Combo8  TEXT,
+    Combo9  TEXT,
+    Combo10 TEXT
+);
+
+-- One row of settings: interface language and the state of the data import.
+CREATE TABLE Tools (
+    Idioma TEXT,
+    syncbd TEXT
+);

@@ -1,0 +1,2 @@
+-- Demo rows for table Dados are added per screen, one file each (Dados-<screen>.sql);
+-- every data/seed/*.sql is loaded in name order.

@@ -1,0 +1,2 @@
+-- Demo rows for table M are added per screen, one file each (M-<screen>.sql);
+-- every data/seed/*.sql is loaded in name order.

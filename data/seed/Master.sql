@@ -1,0 +1,2 @@
+-- Demo rows for table Master are added per screen, one file each (Master-<screen>.sql);
+-- every data/seed/*.sql is loaded in name order.

@@ -1,0 +1,2 @@
+-- Demo rows for table Rf are added per screen, one file each (Rf-<screen>.sql);
+-- every data/seed/*.sql is loaded in name order.

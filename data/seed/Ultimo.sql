@@ -1,0 +1,2 @@
+-- The model preselected on the very first start.
+INSERT INTO Ultimo (Modelo) VALUES ('IP 7');

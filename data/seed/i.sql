@@ -1,0 +1,2 @@
+-- Demo rows for table i are added per screen, one file each (i-<screen>.sql);
+-- every data/seed/*.sql is loaded in name order.
