@@ -1,16 +1,18 @@
 #pragma once
-// Connecting and disconnecting (C1-C5), validating a fresh connection (V1-V7) and repeating the
-// model recognition after a rejected first command (T1-T4). It holds no widgets: the main window
-// paints what it reports and shows the message keys it emits, the command line prints them.
+// Connecting and disconnecting, validating a fresh connection (including recognising the phone's
+// model from its first answer) and asking again after a rejected first command. It holds no
+// widgets: the main window paints what it reports and shows the message keys it emits, the
+// command line prints them.
 
 #include <QObject>
 #include <QString>
 #include <QTimer>
+#include <functional>
+#include <optional>
 
 class ConsoleExchange;
 class Session;
 class SerialPort;
-class Database;
 
 class ConnectionController : public QObject
 {
@@ -18,6 +20,11 @@ class ConnectionController : public QObject
 public:
     static constexpr int ValidationIntervalMs = 300;
     static constexpr int ReidentifyIntervalMs = 50;
+    static constexpr int MinimumAnswerLength = 41; // a shorter first answer is not the device yet
+    static constexpr int GiveUpAfterTicks = 10;
+
+    // Regulatory model number ("A1778") to model name ("IP 7"); nothing when unknown.
+    using ModelLookup = std::function<std::optional<QString>(const QString &modelNumber)>;
 
     ConnectionController(Session &session, ConsoleExchange &exchange, SerialPort &port,
                          QObject *parent = nullptr);
@@ -25,6 +32,15 @@ public:
     // The connect button (Botoes element 1). `portName` is the device picked in cbPortas;
     // `portNumberText` the text the COM rules and the messages use (the COM number on Windows).
     void connectClicked(const QString &portName, const QString &portNumberText);
+
+    // Without a lookup every model number counts as unknown.
+    void setModelLookup(ModelLookup lookup) { m_modelLookup = std::move(lookup); }
+    // The "ports above COM 16" rule; on by default only where ports are COM numbers.
+    void setComNumberRule(bool on) { m_comNumberRule = on; }
+    bool comNumberRule() const { return m_comNumberRule; }
+
+    // The connection label's word for a connection flag.
+    static QString labelKey(const QString &flag);
 
     void onTimerValidaPorta();
     void onTimerVerificaVersao();
@@ -47,13 +63,19 @@ signals:
     void message(const QString &key, const QString &porta); // the main window shows Mensagem
     void focusModelCombo();
     void refillPorts();
-    void connected(); // V4: screens waiting for a connection may enable their start buttons
+    void connected(); // the device answered: waiting screens may enable their start buttons
     void disconnected();
+    void connectionLabelChanged(const QString &key); // follows the session's connection flag
 
 private:
     void disconnectPort();
-    void recognise(); // V5-V7
-    void startReidentification(); // T1
+    void giveUp();
+    void onPortLost();
+    void recognise(bool reidentifying); // model number from the console, then the model name
+    void startReidentification(); // asks for the model once more
+    void setButtonCaption(const QString &key);
+    void setStatusLight(const QString &name);
+    void setModelNumber(const QString &text);
 
     Session &m_session;
     ConsoleExchange &m_exchange;
@@ -66,4 +88,10 @@ private:
     QString m_modelNumber;
     QString m_portNumberText;
     bool m_modelComboVisible = true;
+#ifdef Q_OS_WIN
+    bool m_comNumberRule = true;
+#else
+    bool m_comNumberRule = false;
+#endif
+    ModelLookup m_modelLookup;
 };

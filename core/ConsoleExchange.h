@@ -9,6 +9,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <QStringDecoder>
 #include <QTimer>
 #include <functional>
 
@@ -37,22 +38,31 @@ public:
     QString commandField() const { return m_commandField; }
     void setCommandField(const QString &command) { m_commandField = command; }
 
-    // Sends the command field's text (S1-S4).
+    // Sends the command field's text with a CR and starts collecting the answer.
     void EnviaComando();
-    // Appends a received slice to the console, each LF becoming CR LF (R3).
+    // Appends a received slice to the console, each LF becoming CR LF.
     void AdicionaDadosConsole(const QByteArray &slice);
+
+    // Ends a running exchange at once with what has arrived (the device vanished); no-op when idle.
+    void endNow();
+    // Puts the main window caption back to the session's window title.
+    void restoreCaption();
 
     // The console text of the current answer (txtConsole).
     const QString &console() const { return m_console; }
     void clearConsole();
 
-    // A screen's receiver stays registered until `owner` is destroyed or it is replaced.
+    // A screen's receiver stays registered until `owner` is destroyed or it is replaced;
+    // without an owner it stays until unregistered.
     void registerReceiver(const QString &screenId, QObject *owner, AnswerReceiver receiver);
     void unregisterReceiver(const QString &screenId);
 
     // Tick handlers, public so tests can drive them without waiting.
     void onTimer1();
     void onTimer2();
+
+    // Each LF becomes CR LF, a CR already there stays, NUL becomes U+FFFD.
+    static QString convertSlice(const QString &text);
 
     QTimer &timer1() { return m_timer1; }
     QTimer &timer2() { return m_timer2; }
@@ -67,6 +77,9 @@ signals:
 
 private:
     void endOfAnswer();
+    void append(const QString &converted);
+    void mirror();
+    const AnswerReceiver *receiverOf(const QString &screenId) const;
 
     Session &m_session;
     SerialPort &m_port;
@@ -74,10 +87,12 @@ private:
     QString m_console;
     QTimer m_timer1;
     QTimer m_timer2;
-    int m_slices = 0;
+    quint8 m_slices = 0;
+    QStringDecoder m_decoder{QStringDecoder::Utf8};
     struct Registered
     {
         QPointer<QObject> owner;
+        bool owned = false;
         AnswerReceiver receiver;
     };
     QHash<QString, Registered> m_receivers;

@@ -1,0 +1,13 @@
+#pragma once
+// The commands of vekto-cli. Each takes the arguments after its own name and returns the
+// process exit code; each runs the same classes the main window uses.
+
+#include <QStringList>
+
+namespace Cli {
+
+int ports(const QStringList &args);
+int send(const QStringList &args);
+int identify(const QStringList &args);
+
+} // namespace Cli

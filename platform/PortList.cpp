@@ -1,0 +1,145 @@
+#include "PortList.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSerialPortInfo>
+#include <algorithm>
+
+#ifdef Q_OS_WIN
+#include <windows.h>
+#else
+#include <cerrno>
+#include <signal.h>
+#endif
+
+namespace {
+
+// "/dev/ttyUSB0" → "ttyUSB0", "/dev/pts/3" → "pts/3".
+QString deviceName(const QString &path)
+{
+    return path.startsWith(QLatin1String("/dev/")) ? path.mid(5) : path;
+}
+
+bool processAlive(qint64 pid)
+{
+#ifdef Q_OS_WIN
+    Q_UNUSED(pid);
+    return false;
+#else
+    // pid 0 and negative pids would address process groups, not one process.
+    if (pid <= 0 || pid != qint64(pid_t(pid)))
+        return false;
+    return ::kill(pid_t(pid), 0) == 0 || errno == EPERM;
+#endif
+}
+
+} // namespace
+
+PortList::PortList(QObject *parent) : QObject(parent)
+{
+    m_ports = scan();
+    m_poll.setInterval(PollIntervalMs);
+    connect(&m_poll, &QTimer::timeout, this, &PortList::refresh);
+    m_poll.start();
+}
+
+void PortList::refresh()
+{
+    QList<PortEntry> now = scan();
+    if (now == m_ports)
+        return;
+    m_ports = std::move(now);
+    emit changed();
+}
+
+QList<PortEntry> PortList::scan()
+{
+#ifdef Q_OS_WIN
+    return comPorts();
+#else
+    return serialDevices() + simulatorPorts();
+#endif
+}
+
+QList<PortEntry> PortList::comPorts()
+{
+    QList<PortEntry> ports;
+#ifdef Q_OS_WIN
+    for (int n = 1; n <= 30; ++n) {
+        const std::wstring name = L"COM" + std::to_wstring(n);
+        COMMCONFIG config;
+        DWORD size = sizeof config;
+        if (GetDefaultCommConfigW(name.c_str(), &config, &size)) {
+            const QString number = QString::number(n);
+            ports.append({QStringLiteral("COM") + number, number, number, {}});
+        }
+    }
+#endif
+    return ports;
+}
+
+QList<PortEntry> PortList::serialDevices()
+{
+    QList<PortEntry> ports;
+    for (const QSerialPortInfo &info : QSerialPortInfo::availablePorts()) {
+        QStringList about;
+        if (!info.description().isEmpty())
+            about << info.description();
+        if (!info.manufacturer().isEmpty() && info.manufacturer() != info.description())
+            about << info.manufacturer();
+        if (info.hasVendorIdentifier() && info.hasProductIdentifier())
+            about << QStringLiteral("USB %1:%2")
+                         .arg(info.vendorIdentifier(), 4, 16, QLatin1Char('0'))
+                         .arg(info.productIdentifier(), 4, 16, QLatin1Char('0'));
+        const QString path = info.systemLocation();
+        const QString description = about.join(QStringLiteral(", "));
+        const QString display = description.isEmpty() ? path : path + QStringLiteral(" — ") + description;
+        ports.append({path, display, deviceName(path), description});
+    }
+    std::sort(ports.begin(), ports.end(),
+              [](const PortEntry &a, const PortEntry &b) { return a.portName < b.portName; });
+    return ports;
+}
+
+QString PortList::numberTextFor(const QString &portName)
+{
+    const QString upper = portName.toUpper();
+    if (upper.startsWith(QLatin1String("COM"))) {
+        bool numeric = false;
+        upper.mid(3).toInt(&numeric);
+        if (numeric)
+            return portName.mid(3);
+    }
+    return deviceName(portName);
+}
+
+QString PortList::simulatorFolder()
+{
+    return QDir::tempPath() + QStringLiteral("/vekto-sim");
+}
+
+QList<PortEntry> PortList::simulatorPorts(const QString &folder)
+{
+    QList<PortEntry> ports;
+    const QDir dir(folder);
+    const QStringList files = dir.entryList({QStringLiteral("*.port")}, QDir::Files, QDir::Name);
+    for (const QString &fileName : files) {
+        bool numeric = false;
+        const qint64 pid = QFileInfo(fileName).completeBaseName().toLongLong(&numeric);
+        if (!numeric || !processAlive(pid))
+            continue;
+        QFile file(dir.filePath(fileName));
+        if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+            continue;
+        const QStringList lines = QString::fromUtf8(file.read(4096)).split(u'\n');
+        const QString path = lines.value(0).trimmed();
+        if (path.isEmpty() || !QFileInfo::exists(path))
+            continue;
+        QString description = lines.value(1).trimmed();
+        if (description.isEmpty())
+            description = QStringLiteral("vekto-sim");
+        ports.append({path, path + QStringLiteral(" — ") + description, deviceName(path), description});
+    }
+    return ports;
+}

@@ -1,0 +1,54 @@
+#pragma once
+// The ports the technician can pick from. On Windows these are the COM numbers that exist; on
+// other systems the serial devices the platform reports plus every running phone simulator, so
+// the simulator can be picked like a box on a cable. A light poll notices plugging and unplugging.
+
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <QTimer>
+
+struct PortEntry
+{
+    QString portName;    // what to open
+    QString displayText; // what the port list shows
+    QString numberText;  // the COM number on Windows (for the messages); the device name elsewhere
+    QString description; // what the device says it is (USB vendor/product, simulated model)
+
+    friend bool operator==(const PortEntry &, const PortEntry &) = default;
+};
+
+class PortList : public QObject
+{
+    Q_OBJECT
+public:
+    static constexpr int PollIntervalMs = 2000;
+
+    explicit PortList(QObject *parent = nullptr);
+
+    // The ports as last scanned; the last entry is the one to preselect.
+    const QList<PortEntry> &ports() const { return m_ports; }
+    // Scans again now; emits changed() when the list differs.
+    void refresh();
+
+    // Every port present now, in the order to offer them.
+    static QList<PortEntry> scan();
+    // Windows: COM1..COM30 that exist, ascending.
+    static QList<PortEntry> comPorts();
+    // Serial devices reported by the platform, sorted by name.
+    static QList<PortEntry> serialDevices();
+    // Running simulators registered in `folder` as "<pid>.port" files (line 1 the device path,
+    // line 2 a description); dead processes and vanished devices are left out.
+    static QList<PortEntry> simulatorPorts(const QString &folder = simulatorFolder());
+    static QString simulatorFolder();
+    // The text the messages use for a port given by name: "5" for "COM5", "ttyUSB0" for
+    // "/dev/ttyUSB0".
+    static QString numberTextFor(const QString &portName);
+
+signals:
+    void changed();
+
+private:
+    QList<PortEntry> m_ports;
+    QTimer m_poll;
+};

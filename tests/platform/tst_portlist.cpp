@@ -1,0 +1,109 @@
+// The simulators a technician can pick: only those whose process still runs and whose device
+// still exists, each shown with its description.
+
+#include "PortList.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+
+class TestPortList : public QObject
+{
+    Q_OBJECT
+
+    static void writeFile(const QString &path, const QByteArray &content)
+    {
+        QFile f(path);
+        QVERIFY(f.open(QIODevice::WriteOnly));
+        f.write(content);
+    }
+
+    // The pid of a process that has already ended.
+    static qint64 deadPid()
+    {
+        QProcess p;
+        p.start(QStringLiteral("true"), {});
+        if (!p.waitForStarted())
+            return -1;
+        const qint64 pid = p.processId();
+        p.waitForFinished();
+        return pid;
+    }
+
+private slots:
+    void simulatorRegistrations()
+    {
+        QTemporaryDir folder;
+        QVERIFY(folder.isValid());
+        // Any existing file stands in for the simulator's pseudo-terminal.
+        const QString device = folder.filePath(QStringLiteral("pts-7"));
+        writeFile(device, {});
+        const QString alive = QString::number(QCoreApplication::applicationPid());
+        const qint64 dead = deadPid();
+        QVERIFY(dead > 0);
+
+        writeFile(folder.filePath(alive + ".port"), device.toUtf8() + "\nIP 7, good board\n");
+        writeFile(folder.filePath(QString::number(dead) + ".port"), device.toUtf8() + "\nIP X\n");
+        writeFile(folder.filePath("1.port"), folder.filePath("gone").toUtf8() + "\nIP 8\n"); // pid 1 lives, path missing
+        writeFile(folder.filePath("0.port"), device.toUtf8() + "\nprocess group\n");
+        writeFile(folder.filePath("-1.port"), device.toUtf8() + "\nevery process\n");
+        writeFile(folder.filePath("abc.port"), device.toUtf8() + "\nno pid\n");
+        writeFile(folder.filePath(alive + ".txt"), device.toUtf8() + "\nnot a registration\n");
+
+        const QList<PortEntry> ports = PortList::simulatorPorts(folder.path());
+        QCOMPARE(ports.size(), 1);
+        QCOMPARE(ports[0].portName, device);
+        QCOMPARE(ports[0].displayText, device + QStringLiteral(" — IP 7, good board"));
+        QVERIFY(!ports[0].numberText.isEmpty());
+    }
+
+    void registrationWithoutDescriptionOrPath()
+    {
+        QTemporaryDir folder;
+        const QString device = folder.filePath(QStringLiteral("pts-8"));
+        writeFile(device, {});
+        const QString alive = QString::number(QCoreApplication::applicationPid());
+        writeFile(folder.filePath(alive + ".port"), device.toUtf8());
+        QList<PortEntry> ports = PortList::simulatorPorts(folder.path());
+        QCOMPARE(ports.size(), 1);
+        QCOMPARE(ports[0].displayText, device + QStringLiteral(" — vekto-sim"));
+
+        writeFile(folder.filePath(alive + ".port"), "\n\n");
+        QVERIFY(PortList::simulatorPorts(folder.path()).isEmpty());
+    }
+
+    void missingFolderListsNothing()
+    {
+        QVERIFY(PortList::simulatorPorts(QStringLiteral("/nonexistent/vekto-sim")).isEmpty());
+    }
+
+    void numberTextOfAPortName_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("number");
+        QTest::newRow("COM5") << "COM5" << "5";
+        QTest::newRow("com17") << "com17" << "17";
+        QTest::newRow("USB device") << "/dev/ttyUSB0" << "ttyUSB0";
+        QTest::newRow("pseudo-terminal") << "/dev/pts/3" << "pts/3";
+        QTest::newRow("COM without number") << "COMX" << "COMX";
+    }
+    void numberTextOfAPortName()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, number);
+        QCOMPARE(PortList::numberTextFor(name), number);
+    }
+
+    void deviceNamesStripDev()
+    {
+        QTemporaryDir folder;
+        const QString alive = QString::number(QCoreApplication::applicationPid());
+        writeFile(folder.filePath(alive + ".port"), "/dev/null\nsim\n");
+        const QList<PortEntry> ports = PortList::simulatorPorts(folder.path());
+        QCOMPARE(ports.size(), 1);
+        QCOMPARE(ports[0].numberText, QStringLiteral("null"));
+    }
+};
+
+QTEST_MAIN(TestPortList)
+#include "tst_portlist.moc"

@@ -1,0 +1,146 @@
+// The real serial link on a real pseudo-terminal: the error numbers of a failed open, bytes in
+// both directions, and a device that vanishes while open being reported once and then silence.
+
+#include "QtSerialPort.h"
+
+#include <QSerialPort>
+#include <QSignalSpy>
+#include <QtTest>
+#include <fcntl.h>
+#include <pty.h>
+#include <termios.h>
+#include <unistd.h>
+
+namespace {
+
+// One pseudo-terminal pair; the master side plays the phone.
+struct Pty
+{
+    int master = -1;
+    int slave = -1;
+    QString path;
+
+    Pty()
+    {
+        char name[256] = {};
+        if (openpty(&master, &slave, name, nullptr, nullptr) != 0)
+            return;
+        termios raw{};
+        tcgetattr(master, &raw);
+        cfmakeraw(&raw);
+        tcsetattr(master, TCSANOW, &raw);
+        path = QString::fromLocal8Bit(name);
+    }
+    ~Pty()
+    {
+        closeMaster();
+        if (slave >= 0)
+            ::close(slave);
+    }
+    void closeMaster()
+    {
+        if (master >= 0)
+            ::close(master);
+        master = -1;
+    }
+    // Everything the link wrote, waiting up to a second for it.
+    QByteArray readMaster(qsizetype expected)
+    {
+        QByteArray got;
+        QDeadlineTimer deadline(1000);
+        fcntl(master, F_SETFL, fcntl(master, F_GETFL) | O_NONBLOCK);
+        while (got.size() < expected && !deadline.hasExpired()) {
+            char buf[256];
+            const ssize_t n = ::read(master, buf, sizeof buf);
+            if (n > 0)
+                got.append(buf, n);
+            else
+                QTest::qWait(10);
+        }
+        return got;
+    }
+};
+
+} // namespace
+
+class TestQtSerialPort : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void openErrorsAreMapped_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("no such device") << "/dev/vekto-no-such-port" << int(SerialPort::InvalidPort);
+        QTest::newRow("nothing selected") << "" << int(SerialPort::InvalidPort);
+    }
+    void openErrorsAreMapped()
+    {
+        QFETCH(QString, name);
+        QFETCH(int, expected);
+        QtSerialPortLink link;
+        QCOMPARE(link.open(name), expected);
+        QVERIFY(!link.isOpen());
+        QVERIFY(!link.lastErrorText().isEmpty());
+    }
+
+    void platformErrorsMapToTheThreeNumbers()
+    {
+        QCOMPARE(QtSerialPortLink::mapOpenError(QSerialPort::DeviceNotFoundError), int(SerialPort::InvalidPort));
+        QCOMPARE(QtSerialPortLink::mapOpenError(QSerialPort::PermissionError), int(SerialPort::PortAlreadyOpen));
+        QCOMPARE(QtSerialPortLink::mapOpenError(QSerialPort::OpenError), int(SerialPort::PortAlreadyOpen));
+        QCOMPARE(QtSerialPortLink::mapOpenError(QSerialPort::UnsupportedOperationError), int(SerialPort::PortNotOpen));
+        QCOMPARE(QtSerialPortLink::mapOpenError(QSerialPort::UnknownError), int(SerialPort::PortNotOpen));
+    }
+
+    void secondOpenIsRefusedAsInUse()
+    {
+        Pty pty;
+        QVERIFY(!pty.path.isEmpty());
+        QtSerialPortLink first;
+        QCOMPARE(first.open(pty.path), int(SerialPort::NoError));
+        QCOMPARE(first.open(pty.path), int(SerialPort::PortAlreadyOpen));
+        QtSerialPortLink second;
+        QCOMPARE(second.open(pty.path), int(SerialPort::PortAlreadyOpen));
+    }
+
+    void bytesTravelBothWays()
+    {
+        Pty pty;
+        QtSerialPortLink link;
+        QCOMPARE(link.open(pty.path), int(SerialPort::NoError));
+        QVERIFY(link.readAll().isEmpty()); // nothing there: returns at once
+        link.write("syscfg print RMd#\r");
+        QCOMPARE(pty.readMaster(18), QByteArray("syscfg print RMd#\r"));
+        const QByteArray answer("A1778\n[0000000A:0000BEEF] :-) ");
+        QCOMPARE(::write(pty.master, answer.constData(), answer.size()), ssize_t(answer.size()));
+        QByteArray got;
+        QTRY_VERIFY((got += link.readAll()).size() >= answer.size());
+        QCOMPARE(got, answer);
+    }
+
+    void vanishedDeviceIsReportedOnceAndKeepsWhatArrived()
+    {
+        Pty pty;
+        QtSerialPortLink link;
+        QCOMPARE(link.open(pty.path), int(SerialPort::NoError));
+        QSignalSpy lost(&link, &SerialPort::lost);
+        QCOMPARE(::write(pty.master, "partial", 7), ssize_t(7));
+        QTest::qWait(50);
+        // The slave must be the only thing keeping the line alive for the hang-up to show.
+        ::close(pty.slave);
+        pty.slave = -1;
+        pty.closeMaster();
+        QTRY_COMPARE(lost.count(), 1);
+        QVERIFY(!link.isOpen());
+        QCOMPARE(link.readAll(), QByteArray("partial"));
+        QTest::qWait(200);
+        QCOMPARE(lost.count(), 1);
+        link.write("ignored\r"); // writing to a vanished port is silently dropped
+        QVERIFY(link.readAll().isEmpty());
+    }
+};
+
+QTEST_MAIN(TestQtSerialPort)
+#include "tst_qtserialport.moc"
