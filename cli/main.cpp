@@ -1,8 +1,11 @@
 // vekto-cli: the tool's engines without a window, for scripts, support and tests.
 #include "CliCommands.h"
 #include "CliOutput.h"
+#include "JudgeRails.h"
+#include "RunRails.h"
 
 #include <QCoreApplication>
+#include <QTextStream>
 #include <functional>
 #include <map>
 
@@ -15,11 +18,20 @@ int main(int argc, char **argv)
         {QStringLiteral("ports"), Cli::ports},
         {QStringLiteral("send"), Cli::send},
         {QStringLiteral("identify"), Cli::identify},
+        {QStringLiteral("judge"), [](const QStringList &a) {
+             QTextStream out(stdout), err(stderr);
+             return runJudgeRails(a, out, err);
+         }},
+        {QStringLiteral("run"), [](const QStringList &a) {
+             QTextStream out(stdout), err(stderr);
+             return runRunRails(a, out, err);
+         }},
     };
     const QStringList args = app.arguments().mid(1);
     const auto command = args.isEmpty() ? commands.end() : commands.find(args.first());
     if (command == commands.end()) {
-        Cli::err(QStringLiteral("usage: vekto-cli ports | send --port P TEXT | identify --port P [--db FILE]"));
+        Cli::err(QStringLiteral("usage: vekto-cli ports | send --port P TEXT | identify --port P [--db FILE]"
+                               " | judge ENGINE ... | run ENGINE ..."));
         return 2;
     }
     return command->second(args.mid(1));
