@@ -2,7 +2,7 @@
 
 #include "ConsoleExchange.h"
 #include "JudgeRails.h"
-#include "ModelLookup.h"
+#include "Database.h"
 #include "QtSerialPort.h"
 #include "Session.h"
 
@@ -68,7 +68,7 @@ int runRunRails(const QStringList &args, QTextStream &out, QTextStream &err)
     if (options->model == QLatin1String("auto")) {
         static const QRegularExpression number(QStringLiteral("\\bA\\d{4}\\b"));
         const auto match = number.match(exchangeOnce(session, exchange, port, QStringLiteral("syscfg print RMd#")));
-        const auto model = match.hasMatch() ? Cli::modelRef(options->db, match.captured()) : std::nullopt;
+        const auto model = match.hasMatch() ? Database(options->db).modeloRef(match.captured()) : std::nullopt;
         if (!model) {
             err << QStringLiteral("the model could not be recognised; give it with --model\n");
             return 1;

@@ -42,12 +42,6 @@ BuckTeste::BuckTeste(const ScreenContext &context, QWidget *parent)
 
 BuckTeste::~BuckTeste() = default;
 
-QString BuckTeste::caption(const QString &key) const
-{
-    const QString text = Traduz(key);
-    return text.isEmpty() ? key : text;
-}
-
 QString BuckTeste::infoBucks(const QString &modelo, const std::function<QString(const QString &)> &traduz)
 {
     QStringList lines;
@@ -71,22 +65,22 @@ QString BuckTeste::infoBucks(const QString &modelo, const std::function<QString(
 
 void BuckTeste::retranslate()
 {
-    setWindowTitle(caption(QStringLiteral("Buck Teste")));
-    ui->btBl_0->setText(QStringLiteral("Buck ") + caption(QStringLiteral("Leitura")));
-    ui->btBl_1->setText(QStringLiteral("Buck ") + caption(QStringLiteral("Teste")));
-    ui->btOriginal->setText(caption(QStringLiteral("Original")));
-    ui->lbLeitura->setText(caption(QStringLiteral("Leitura do dispositivo conectado:")));
-    ui->lbComparador->setText(caption(QStringLiteral("Comparador: (Dispositivos Gravados)")));
-    ui->frameVar->setTitle(caption(QStringLiteral("Informações adicionais")));
-    ui->lbRealizando->setText(caption(QStringLiteral("Realizando Leitura...")));
-    QString info = infoBucks(session().modelo(), [this](const QString &k) { return caption(k); });
+    setWindowTitle(Traduz(QStringLiteral("Buck Teste")));
+    ui->btBl_0->setText(QStringLiteral("Buck ") + Traduz(QStringLiteral("Leitura")));
+    ui->btBl_1->setText(QStringLiteral("Buck ") + Traduz(QStringLiteral("Teste")));
+    ui->btOriginal->setText(Traduz(QStringLiteral("Original")));
+    ui->lbLeitura->setText(Traduz(QStringLiteral("Leitura do dispositivo conectado:")));
+    ui->lbComparador->setText(Traduz(QStringLiteral("Comparador: (Dispositivos Gravados)")));
+    ui->frameVar->setTitle(Traduz(QStringLiteral("Informações adicionais")));
+    ui->lbRealizando->setText(Traduz(QStringLiteral("Realizando Leitura...")));
+    QString info = infoBucks(session().modelo(), [this](const QString &k) { return Traduz(k); });
     const QString modelo = session().modelo();
     if (modelo == QLatin1String("IP 6") || modelo == QLatin1String("IP 6 Plus"))
-        info += QStringLiteral("\n\n") + caption(QStringLiteral(
+        info += QStringLiteral("\n\n") + Traduz(QStringLiteral(
                     "* Atenção: IP 6 / IP 6 Plus sempre apresenta resultado como 'FAIL' no buck1, mesmo estando OK, "
                     "se tratar de malha de GPU."));
     ui->lbInfoBucks->setText(info);
-    ui->lbVar->setText(caption(QStringLiteral("VAR")) + u' ' + caption(QStringLiteral("VAR2")));
+    ui->lbVar->setText(Traduz(QStringLiteral("VAR")) + u' ' + Traduz(QStringLiteral("VAR2")));
 }
 
 void BuckTeste::btBl(int index)
@@ -101,8 +95,8 @@ void BuckTeste::btBl(int index)
         const int n = number.toInt(&ok);
         if (!ok || n < 1 || n > 99)
             return;
-        if (!dialogs().question(this, caption(QStringLiteral("Buck Teste")),
-                                caption(QStringLiteral("Esse processo leva aproximadamente 50 segundos, deseja continuar?"))))
+        if (!dialogs().question(this, Traduz(QStringLiteral("Buck Teste")),
+                                Traduz(QStringLiteral("Esse processo leva aproximadamente 50 segundos, deseja continuar?"))))
             return;
         command = QStringLiteral("buckcheck ") + QString::number(n);
         m_modo = 2;
@@ -136,7 +130,7 @@ void BuckTeste::fill(QListWidget *list, const QString &answer)
     list->clear();
     const QList<BuckLine> lines = m_modo == 1
         ? ExtraiLeiturasBuck(answer)
-        : ExtraiBistBuck(answer, {caption(QStringLiteral("Referência")), caption(QStringLiteral("Leitura"))});
+        : ExtraiBistBuck(answer, {Traduz(QStringLiteral("Referência")), Traduz(QStringLiteral("Leitura"))});
     for (const BuckLine &line : lines) {
         auto *item = new QListWidgetItem(line.text, list);
         if (m_modo != 1) {

@@ -42,7 +42,6 @@ public:
 private:
     void handOver(const QString &answer);
     void fill(QListWidget *list, const QString &answer);
-    QString caption(const QString &key) const;
 
     std::unique_ptr<Ui::BuckTeste> ui;
     QTimer m_timerBarra;

@@ -102,37 +102,32 @@ RailScreen::~RailScreen()
     m_data1->clear();
 }
 
-QString RailScreen::caption(const QString &key) const
-{
-    const QString text = Traduz(key);
-    return text.isEmpty() ? key : text;
-}
 
 void RailScreen::retranslate()
 {
-    setWindowTitle(caption(m_kind.title));
-    ui->lbDispositivo->setText(caption(QStringLiteral("Modelo")) + QStringLiteral(": ") + session().modelo());
-    ui->btExecutaLeitura->setText(caption(m_reading ? QStringLiteral("Processando comando")
+    setWindowTitle(Traduz(m_kind.title));
+    ui->lbDispositivo->setText(Traduz(QStringLiteral("Modelo")) + QStringLiteral(": ") + session().modelo());
+    ui->btExecutaLeitura->setText(Traduz(m_reading ? QStringLiteral("Processando comando")
                                                     : QStringLiteral("Executar Leitura")));
     ui->Frame1->setTitle(QString());
-    ui->OpMalha->setText(caption(QStringLiteral("Malha")));
+    ui->OpMalha->setText(Traduz(QStringLiteral("Malha")));
     ui->OpIc->setText(QStringLiteral("IC's"));
-    ui->OpPorc->setText(caption(QStringLiteral("Classificação")));
-    ui->FrameICs->setTitle(caption(QStringLiteral("Seleção de IC's a serem exibidos")));
-    ui->FrameDecimais->setTitle(caption(QStringLiteral("Casas Decimais")));
-    ui->lbDecimais->setText(caption(QStringLiteral("Decimais")));
+    ui->OpPorc->setText(Traduz(QStringLiteral("Classificação")));
+    ui->FrameICs->setTitle(Traduz(QStringLiteral("Seleção de IC's a serem exibidos")));
+    ui->FrameDecimais->setTitle(Traduz(QStringLiteral("Casas Decimais")));
+    ui->lbDecimais->setText(Traduz(QStringLiteral("Decimais")));
     ui->lbUnidades->setText(QStringLiteral(": V / mA"));
-    ui->lbRealizando->setText(caption(QStringLiteral("Realizando Leitura...")));
+    ui->lbRealizando->setText(Traduz(QStringLiteral("Realizando Leitura...")));
     for (QPushButton *b : {ui->btGravar_1, ui->btGravar_2, ui->btGravar_3})
-        b->setText(caption(QStringLiteral("Gravar")));
+        b->setText(Traduz(QStringLiteral("Gravar")));
     for (QPushButton *b : {ui->btExcluir_1, ui->btExcluir_2, ui->btExcluir_3})
-        b->setText(caption(QStringLiteral("Excluir")));
+        b->setText(Traduz(QStringLiteral("Excluir")));
     QStringList notes;
     for (const QString &key : m_kind.noteKeys)
-        notes << caption(key);
+        notes << Traduz(key);
     ui->lbNota->setText(notes.join(u'\n'));
-    ui->Botao1->setText(caption(QStringLiteral("VCore")));
-    ui->Botao2->setText(caption(QStringLiteral("Buck Teste")));
+    ui->Botao1->setText(Traduz(QStringLiteral("VCore")));
+    ui->Botao2->setText(Traduz(QStringLiteral("Buck Teste")));
     ui->Botao3->setText(QStringLiteral("NAND"));
 
     const QSqlRecord record = m_data1->record();
@@ -140,7 +135,7 @@ void RailScreen::retranslate()
         const int index = record.indexOf(column);
         if (index < 0)
             continue;
-        QString text = caption(key);
+        QString text = Traduz(key);
         if (column.startsWith(u'G'))
             text += u' ' + column.mid(1);
         m_data1->setHeaderData(index, Qt::Horizontal, text);
@@ -168,7 +163,7 @@ RailSettings RailScreen::settings() const
     RailSettings s;
     s.voltDecimals = qBound(1, ui->ComboDecimais->currentText().toInt(), 3);
     s.ampDecimals = qBound(0, ui->ComboDecimaisAmp->currentText().toInt(), 3);
-    s.noReading = caption(QStringLiteral("Sem Medição")) + u'*';
+    s.noReading = Traduz(QStringLiteral("Sem Medição")) + u'*';
     return s;
 }
 
@@ -241,7 +236,7 @@ void RailScreen::IniciaLeitura()
 {
     m_reading = true;
     ui->btExecutaLeitura->setEnabled(false);
-    ui->btExecutaLeitura->setText(caption(QStringLiteral("Processando comando")));
+    ui->btExecutaLeitura->setText(Traduz(QStringLiteral("Processando comando")));
     ui->Barra->setValue(0);
     ui->FrameVCore->setVisible(true);
     m_timerBarra.start();
@@ -270,7 +265,7 @@ void RailScreen::onTimer1()
         return;
     }
     ProcessaLeituras();
-    ui->btExecutaLeitura->setText(caption(QStringLiteral("Executar Leitura")));
+    ui->btExecutaLeitura->setText(Traduz(QStringLiteral("Executar Leitura")));
     m_timer1.stop();
     m_timer2.start();
 }
@@ -316,7 +311,7 @@ void RailScreen::onTimer2()
 void RailScreen::finishWaiting()
 {
     m_reading = false;
-    ui->btExecutaLeitura->setText(caption(QStringLiteral("Executar Leitura")));
+    ui->btExecutaLeitura->setText(Traduz(QStringLiteral("Executar Leitura")));
     ui->FrameVCore->setVisible(false);
     m_timerBarra.stop();
     ui->btExecutaLeitura->setEnabled(session().connectedAndIdle());
@@ -360,7 +355,7 @@ void RailScreen::gravar(int slot)
 {
     if (!session().connectedAndIdle() || !ui->btExecutaLeitura->isEnabled())
         return;
-    if (!dialogs().question(this, caption(QStringLiteral("Gravar")), caption(QStringLiteral("Deseja salvar?"))))
+    if (!dialogs().question(this, Traduz(QStringLiteral("Gravar")), Traduz(QStringLiteral("Deseja salvar?"))))
         return;
     if (!m_db->recordReadings(slot, gridFilter()))
         storeFailed();
@@ -370,8 +365,8 @@ void RailScreen::gravar(int slot)
 
 void RailScreen::excluir(int slot)
 {
-    if (!dialogs().question(this, caption(QStringLiteral("Excluir")),
-                            caption(QStringLiteral("Deseja excluir os dados gravados?"))))
+    if (!dialogs().question(this, Traduz(QStringLiteral("Excluir")),
+                            Traduz(QStringLiteral("Deseja excluir os dados gravados?"))))
         return;
     if (!m_db->clearRecordings(slot, gridFilter()))
         storeFailed();

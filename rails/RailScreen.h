@@ -84,7 +84,6 @@ private:
     void finishWaiting();
     void restartIfIdle();
     void storeFailed();
-    QString caption(const QString &key) const;
 
     std::unique_ptr<Ui::RailScreen> ui;
     RailScreenKind m_kind;

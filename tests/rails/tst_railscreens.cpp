@@ -6,7 +6,6 @@
 #include "Database.h"
 #if defined(__GNUC__) && !defined(__clang__)
 // GCC 12 sees a moved-from optional<QString> in the fake's input queue as uninitialised.
-#pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
 #endif
 #include "FakeDialogs.h"
 #include "SerialPort.h"
