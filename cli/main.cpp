@@ -2,8 +2,11 @@
 #include "CliCommands.h"
 #include "CliOutput.h"
 #include "JudgeCompare.h"
+#include "JudgeRails.h"
+#include "RunRails.h"
 
 #include <QCoreApplication>
+#include <QTextStream>
 #include <functional>
 #include <map>
 
@@ -18,13 +21,20 @@ int main(int argc, char **argv)
         {QStringLiteral("identify"), Cli::identify},
         {QStringLiteral("judge"), [](const QStringList &a) {
              QTextStream out(stdout), err(stderr);
-             return a.value(0) == QLatin1String("compare") ? runJudgeCompare(a.mid(1), out, err) : (Cli::err(QStringLiteral("usage: vekto-cli judge compare ...")), 2);
+             if (a.value(0) == QLatin1String("compare"))
+                 return runJudgeCompare(a.mid(1), out, err);
+             return runJudgeRails(a, out, err);
+         }},
+        {QStringLiteral("run"), [](const QStringList &a) {
+             QTextStream out(stdout), err(stderr);
+             return runRunRails(a, out, err);
          }},
     };
     const QStringList args = app.arguments().mid(1);
     const auto command = args.isEmpty() ? commands.end() : commands.find(args.first());
     if (command == commands.end()) {
-        Cli::err(QStringLiteral("usage: vekto-cli ports | send --port P TEXT | identify --port P [--db FILE] | judge compare --model M --command C --answer FILE [--db FILE] [--json]"));
+        Cli::err(QStringLiteral("usage: vekto-cli ports | send --port P TEXT | identify --port P [--db FILE]"
+                               " | judge ENGINE ... | run ENGINE ..."));
         return 2;
     }
     return command->second(args.mid(1));

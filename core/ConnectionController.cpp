@@ -58,6 +58,8 @@ void ConnectionController::connectClicked(const QString &portName, const QString
     }
 
     m_portNumberText = portNumberText;
+    // A connection abandoned half-way must not shorten the next one's patience.
+    m_validation = 0;
     const int error = m_port.open(portName);
     if (error != SerialPort::NoError) {
         emit message(error == SerialPort::PortAlreadyOpen ? QStringLiteral("MSG_PORTA_EM_USO")
@@ -186,6 +188,9 @@ void ConnectionController::startReidentification()
     if (m_session.connectionFlag() != QLatin1String("1"))
         return;
     setModelNumber(QStringLiteral("..."));
+    // Each re-identification gets its one resend and its 15 ticks, however many came before.
+    m_attempts = 0;
+    m_ticks = 0;
     m_exchange.setCommandField(ModelQuery);
     m_exchange.EnviaComando();
     m_timerVerificaVersao.start();
@@ -196,7 +201,6 @@ void ConnectionController::onTimerVerificaVersao()
     if (m_session.connectionFlag() != QLatin1String("1"))
         return;
 
-    // Both counters run over the whole session, as 8-bit values.
     ++m_attempts;
     if (m_exchange.console().contains(QLatin1String("Command")) && m_attempts == 1) {
         m_exchange.setCommandField(ModelQuery);

@@ -51,7 +51,10 @@ std::optional<int> checkConfig(const QString &path, Dialogs &dialogs)
                              .arg(Texts::Traduz(key, 1), Texts::Traduz(key, 2), Texts::Traduz(key, 3),
                                   QDir::toNativeSeparators(path),
                                   detail.isEmpty() ? QString() : QStringLiteral("\r\n") + detail);
-    dialogs.critical(nullptr, QStringLiteral("Config.vkt"), text);
+    const QString title = QStringLiteral("%1 - %2 - %3").arg(Texts::Traduz(QStringLiteral("DB_TITULO"), 1),
+                                                              Texts::Traduz(QStringLiteral("DB_TITULO"), 2),
+                                                              Texts::Traduz(QStringLiteral("DB_TITULO"), 3));
+    dialogs.critical(nullptr, title, text);
     return 2;
 }
 

@@ -35,9 +35,12 @@ public:
     std::optional<QString> input(QWidget *, const QString &title, const QString &prompt, const QString &) override
     {
         shown << QStringLiteral("input:") + title + u'|' + prompt;
-        if (inputs.empty())
+        if (inputs.empty() || !inputs.front().has_value()) {
+            if (!inputs.empty())
+                inputs.pop_front();
             return std::nullopt;
-        auto a = inputs.front();
+        }
+        const QString a = *inputs.front();
         inputs.pop_front();
         return a;
     }

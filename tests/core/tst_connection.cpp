@@ -302,6 +302,25 @@ private slots:
         QCOMPARE(rig.session.connectionFlag(), QStringLiteral("1"));
     }
 
+    // A second connection in the same session gets its own resend from the re-identification
+    // timer, however the first one ended.
+    void reidentificationAgainAfterReconnect()
+    {
+        Rig rig;
+        rig.answers = {Rejected + Prompt, Rejected + Prompt, Rejected + Prompt};
+        rig.connectTo();
+        rig.clock.advance(60000);
+        QCOMPARE(rig.port.written.size(), 3);
+        rig.connectTo(); // disconnect
+        QCOMPARE(rig.session.connectionFlag(), QStringLiteral("0"));
+        rig.port.written.clear();
+        rig.answers = {Rejected + Prompt, Rejected + Prompt, modelAnswer("A1865")};
+        rig.connectTo();
+        rig.clock.advance(60000);
+        QCOMPARE(rig.port.written.size(), 3);
+        QCOMPARE(rig.recognised, QStringList{QStringLiteral("IP X")});
+    }
+
     void connectIgnoredWhileBusy_data()
     {
         QTest::addColumn<QString>("flag");

@@ -18,6 +18,7 @@ const QString sourceData = QStringLiteral(VEKTO_SOURCE_DIR "/data");
 
 // Reference rows for the rail, RF, I2C and recorded-answer queries.
 const char *const testRows = R"SQL(
+DELETE FROM Master;
 INSERT INTO Master (Modelo, Malha, Ci, TIPO, Orig, Reft, refv, Leitura, Porc, G1, G2, G3) VALUES
  ('IP 7', 'PP_CPU',     'PMU',      0, '3',  'vdd_cpu',  '0.850', '0.851 V', '0,1 %',  '', '', ''),
  ('IP 7', 'PP_GPU',     'PMU',      0, '1',  'vdd_gpu',  '0.800', '0.900 V', '12,5 %', '', '', ''),

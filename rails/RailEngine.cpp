@@ -1,0 +1,133 @@
+#include "RailEngine.h"
+
+#include "NumberRoutines.h"
+
+#include <QRegularExpression>
+
+namespace {
+
+bool isDecimalNumber(const QString &text)
+{
+    static const QRegularExpression number(QStringLiteral("^-?\\d+(\\.\\d*)?$"));
+    return number.match(text).hasMatch();
+}
+
+// The deviation text of a value against its reference; "0 %" for a zero reference, which is
+// never divided by, and empty when the reference is missing or cannot be read.
+QString deviation(const QString &value, const QString &refv)
+{
+    if (refv.isEmpty())
+        return {};
+    if (refv == QLatin1String("0"))
+        return QStringLiteral("0 %");
+    const auto p = CalculaPorcentagem(value, refv);
+    return p ? *p + QStringLiteral(" %") : QString();
+}
+
+// Volts keep one integer digit, the point and `decimals` digits; a cut that leaves only zeros is "0 V".
+QString cutVolts(const QString &volts, int decimals)
+{
+    const QString cut = volts.left(volts.startsWith(u'-') ? decimals + 3 : decimals + 2);
+    QString digits = cut;
+    digits.remove(u'0').remove(u'.');
+    if (digits.isEmpty() || digits == QLatin1String("-"))
+        return QStringLiteral("0 V");
+    return cut + QStringLiteral(" V");
+}
+
+// Milliamps keep `decimals` digits after the comma; with none, the comma goes as well.
+QString cutMilliamps(const QString &value, int decimals)
+{
+    const qsizetype comma = value.indexOf(u',');
+    QString cut = value;
+    if (comma >= 0)
+        cut = decimals <= 0 ? value.left(comma) : value.left(comma + 1 + decimals);
+    return cut + QStringLiteral(" mA");
+}
+
+} // namespace
+
+std::optional<QString> milivoltsToVolts(const QString &milivolts)
+{
+    if (!isDecimalNumber(milivolts))
+        return std::nullopt;
+    // The console prints whole millivolts; the formatter wants the fraction point to find them.
+    return ConverteMilivolts(milivolts.contains(u'.') ? milivolts : milivolts + QStringLiteral(".0"));
+}
+
+RailMeasurement RailEngine::readRail(const QString &answer, const RailReference &row, const RailSettings &settings)
+{
+    RailMeasurement reading;
+    reading.malha = row.malha;
+    if (row.reft.isEmpty())
+        return reading;
+
+    // A rail the answer does not give ranks with the exact ones when it has a reference.
+    auto noReading = [&] {
+        reading.leitura = settings.noReading;
+        reading.porc = row.refv.isEmpty() ? QString() : QStringLiteral("0 %");
+        reading.unit = RailUnit::None;
+        reading.measured = false;
+        return reading;
+    };
+
+    const qsizetype label = answer.indexOf(row.reft); // first occurrence, case-sensitive
+    if (label < 0)
+        return noReading();
+    const qsizetype start = label + row.reft.size() + 1; // one separator follows the label
+    const qsizetype blank = answer.indexOf(u' ', start);
+    if (start > answer.size() || blank < 0)
+        return noReading();
+    const QString value = answer.mid(start, blank - start);
+    if (value.contains(QLatin1String("tim"))) // the device reports a time-out
+        return noReading();
+
+    // "mV" behind the blank: whole millivolts; anything else ("mA"): a current.
+    if (blank + 2 < answer.size() && answer.at(blank + 2) == u'V') {
+        const auto volts = milivoltsToVolts(value);
+        if (!volts)
+            return noReading();
+        reading.unit = RailUnit::Volts;
+        reading.porc = deviation(*volts, row.refv);
+        reading.leitura = cutVolts(*volts, settings.voltDecimals);
+    } else {
+        if (!isDecimalNumber(value))
+            return noReading();
+        QString current = value.chopped(1); // the device's last digit is not shown
+        if (current.isEmpty() || current == QLatin1String("-"))
+            return noReading();
+        current.replace(u'.', u',');
+        reading.unit = RailUnit::Milliamps;
+        reading.porc = deviation(current, row.refv);
+        reading.leitura = cutMilliamps(current, settings.ampDecimals);
+    }
+    reading.measured = true;
+    return reading;
+}
+
+QList<RailMeasurement> RailEngine::ProcessaLeituras(const QString &answer, const QList<RailReference> &rows,
+                                                const RailSettings &settings)
+{
+    QList<RailMeasurement> readings;
+    if (answer.isEmpty())
+        return readings;
+    for (const RailReference &row : rows) {
+        if (!row.reft.isEmpty())
+            readings.append(readRail(answer, row, settings));
+    }
+    return readings;
+}
+
+RailVerdict RailEngine::verdict(const RailMeasurement &reading, const QString &refv, double tolerancePercent)
+{
+    if (refv.isEmpty())
+        return RailVerdict::None;
+    if (!reading.measured)
+        return RailVerdict::Fail;
+    QString porc = reading.porc;
+    porc.remove(QStringLiteral(" %"));
+    const auto value = porcentagemValor(porc);
+    if (!value)
+        return RailVerdict::None;
+    return qAbs(*value) <= tolerancePercent ? RailVerdict::Pass : RailVerdict::Fail;
+}

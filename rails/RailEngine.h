@@ -1,0 +1,60 @@
+#pragma once
+// Turns one "pmuadc --read all" answer into the reading and deviation of every reference rail of
+// a model. It holds no widgets and touches no database: the rail screens and the command line
+// hand it the answer and the reference rows, then paint, print or store what it returns.
+
+#include <QList>
+#include <QString>
+#include <optional>
+
+// One reference row of table Master, as far as reading a rail needs it.
+struct RailReference
+{
+    QString malha; // net name
+    QString reft;  // label searched in the answer; empty: the row takes no reading
+    QString refv;  // reference value, volts with three decimals or milliamps
+    QString ci;    // chip that feeds the net
+};
+
+enum class RailUnit { None, Volts, Milliamps };
+
+// What one row receives from a reading.
+struct RailMeasurement
+{
+    QString malha;
+    QString leitura; // "0.850 V", "12,3 mA", "0 V" or the no-reading text
+    QString porc;    // "0,3 %", "0 %" or empty when nothing can be said
+    RailUnit unit = RailUnit::None;
+    bool measured = false; // false when the label or a usable value was missing
+};
+
+struct RailSettings
+{
+    int voltDecimals = 3; // ComboDecimais: 1, 2 or 3
+    int ampDecimals = 1;  // ComboDecimaisAmp: 0 to 3
+    QString noReading = QStringLiteral("Sem Medição*"); // translated "Sem Medição" + "*"
+};
+
+// How the command line and the tests judge a reading; the screens show the texts only.
+enum class RailVerdict { Pass, Fail, None };
+
+class RailEngine
+{
+public:
+    // Readings of every row with a label, in the order of `rows`; rows without a label are left out.
+    static QList<RailMeasurement> ProcessaLeituras(const QString &answer, const QList<RailReference> &rows,
+                                               const RailSettings &settings);
+
+    // One row: label search, unit, percent, time-out and the cutting of decimals.
+    static RailMeasurement readRail(const QString &answer, const RailReference &row, const RailSettings &settings);
+
+    // Pass when the deviation is within `tolerancePercent`, fail when it is beyond or when a
+    // referenced rail gave no reading, none when the row has no reference to judge against.
+    static RailVerdict verdict(const RailMeasurement &reading, const QString &refv, double tolerancePercent);
+
+    static constexpr double DefaultTolerancePercent = 5.0;
+};
+
+// Millivolt count text, with or without a fraction ("850", "-12", "4998.000"), to volts with
+// three decimals; nothing for a text that is not a number.
+std::optional<QString> milivoltsToVolts(const QString &milivolts);

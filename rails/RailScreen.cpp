@@ -1,0 +1,379 @@
+#include "RailScreen.h"
+
+#include "ConsoleExchange.h"
+#include "Database.h"
+#include "Dialogs.h"
+#include "Session.h"
+#include "ui_RailScreen.h"
+
+#include <QHeaderView>
+#include <QSqlQueryModel>
+#include <QSqlRecord>
+
+namespace {
+
+const QString Command = QStringLiteral("pmuadc --read all");
+// Chip choices that show every rail, and the ones that start a new reading when chosen.
+const QStringList AllChips = {QStringLiteral("IC's"), QStringLiteral("CPU/NAND")};
+const QStringList ReadingChips = {QStringLiteral("IC's"), QStringLiteral("CPU"), QStringLiteral("GPU"),
+                                  QStringLiteral("NAND")};
+// Grid columns and their caption keys; the other columns of Master stay hidden.
+const QList<QPair<QString, QString>> GridColumns = {
+    {QStringLiteral("Malha"), QStringLiteral("Malha")},       {QStringLiteral("refv"), QStringLiteral("Referência")},
+    {QStringLiteral("Leitura"), QStringLiteral("Leitura")},   {QStringLiteral("Porc"), QStringLiteral("Classificação")},
+    {QStringLiteral("G1"), QStringLiteral("Gravação")},       {QStringLiteral("G2"), QStringLiteral("Gravação")},
+    {QStringLiteral("G3"), QStringLiteral("Gravação")},
+};
+constexpr int VoltCombo = 1; // Combos.Combo1
+constexpr int AmpCombo = 2;  // Combos.Combo2
+constexpr int BarraSteps = 100;
+
+} // namespace
+
+RailScreen::RailScreen(const ScreenContext &context, const RailScreenKind &kind, QWidget *parent)
+    : TestScreen(context, kind.screenName, parent), ui(std::make_unique<Ui::RailScreen>()), m_kind(kind),
+      m_db(std::make_unique<Database>(context.session.configPath()))
+{
+    ui->setupUi(this);
+    m_data1 = new QSqlQueryModel(this);
+    m_data1->setObjectName(QStringLiteral("Data1"));
+    ui->grid->setModel(m_data1);
+    ui->grid->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    ui->Barra->setRange(0, BarraSteps);
+
+    m_timer1.setObjectName(QStringLiteral("Timer1"));
+    m_timer1.setInterval(Timer1IntervalMs);
+    m_timer2.setObjectName(QStringLiteral("Timer2"));
+    m_timer2.setInterval(Timer2IntervalMs);
+    m_timerBarra.setObjectName(QStringLiteral("TimerBarra"));
+    m_timerBarra.setInterval(TimerBarraIntervalMs);
+    connect(&m_timer1, &QTimer::timeout, this, &RailScreen::onTimer1);
+    connect(&m_timer2, &QTimer::timeout, this, &RailScreen::onTimer2);
+    connect(&m_timerBarra, &QTimer::timeout, this, &RailScreen::onTimerBarra);
+
+    ui->ComboDecimais->addItems({QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3")});
+    ui->ComboDecimaisAmp->addItems({QStringLiteral("0"), QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3")});
+    ui->ComboDecimais->setCurrentText(m_db->combo(VoltCombo).value_or(QStringLiteral("3")));
+    ui->ComboDecimaisAmp->setCurrentText(m_db->combo(AmpCombo).value_or(QStringLiteral("1")));
+    ui->cbICs->addItems({QStringLiteral("IC's"), QStringLiteral("CPU"), QStringLiteral("GPU"), QStringLiteral("NAND"),
+                         QStringLiteral("CPU/NAND")});
+    ui->FrameICs->setVisible(kind.chipFilter);
+    ui->Botao1->setVisible(false);
+    ui->Botao2->setVisible(false);
+    ui->Botao3->setVisible(false);
+
+    connect(ui->btExecutaLeitura, &QPushButton::clicked, this, &RailScreen::ExecutaLeitura);
+    const QList<QPushButton *> gravarButtons = {ui->btGravar_1, ui->btGravar_2, ui->btGravar_3};
+    const QList<QPushButton *> excluirButtons = {ui->btExcluir_1, ui->btExcluir_2, ui->btExcluir_3};
+    for (int slot = 1; slot <= 3; ++slot) {
+        connect(gravarButtons[slot - 1], &QPushButton::clicked, this, [this, slot] { gravar(slot); });
+        connect(excluirButtons[slot - 1], &QPushButton::clicked, this, [this, slot] { excluir(slot); });
+    }
+    for (QRadioButton *option : {ui->OpMalha, ui->OpIc, ui->OpPorc})
+        connect(option, &QRadioButton::toggled, this, [this](bool on) {
+            if (on)
+                MontaConsultaGrade();
+        });
+    connect(ui->ComboDecimais, &QComboBox::currentTextChanged, this,
+            [this](const QString &v) { decimalsChosen(VoltCombo, v); });
+    connect(ui->ComboDecimaisAmp, &QComboBox::currentTextChanged, this,
+            [this](const QString &v) { decimalsChosen(AmpCombo, v); });
+    connect(ui->cbICs, &QComboBox::currentTextChanged, this, &RailScreen::chipChosen);
+
+    // The read button waits for a validated connection.
+    ui->btExecutaLeitura->setEnabled(session().connectedAndIdle());
+    connect(&session(), &Session::connectionFlagChanged, this, [this](const QString &flag) {
+        if (!m_reading)
+            ui->btExecutaLeitura->setEnabled(flag == QLatin1String("1"));
+    });
+    connect(&session(), &Session::modeloChanged, this, [this] {
+        retranslate();
+        PrePesquisa();
+    });
+
+    retranslate();
+    PrePesquisa();
+    m_loading = false;
+}
+
+RailScreen::~RailScreen()
+{
+    // The grid's query belongs to the connection: let it go first.
+    m_data1->clear();
+}
+
+
+void RailScreen::retranslate()
+{
+    setWindowTitle(Traduz(m_kind.title));
+    ui->lbDispositivo->setText(Traduz(QStringLiteral("Modelo")) + QStringLiteral(": ") + session().modelo());
+    ui->btExecutaLeitura->setText(Traduz(m_reading ? QStringLiteral("Processando comando")
+                                                    : QStringLiteral("Executar Leitura")));
+    ui->Frame1->setTitle(QString());
+    ui->OpMalha->setText(Traduz(QStringLiteral("Malha")));
+    ui->OpIc->setText(QStringLiteral("IC's"));
+    ui->OpPorc->setText(Traduz(QStringLiteral("Classificação")));
+    ui->FrameICs->setTitle(Traduz(QStringLiteral("Seleção de IC's a serem exibidos")));
+    ui->FrameDecimais->setTitle(Traduz(QStringLiteral("Casas Decimais")));
+    ui->lbDecimais->setText(Traduz(QStringLiteral("Decimais")));
+    ui->lbUnidades->setText(QStringLiteral(": V / mA"));
+    ui->lbRealizando->setText(Traduz(QStringLiteral("Realizando Leitura...")));
+    for (QPushButton *b : {ui->btGravar_1, ui->btGravar_2, ui->btGravar_3})
+        b->setText(Traduz(QStringLiteral("Gravar")));
+    for (QPushButton *b : {ui->btExcluir_1, ui->btExcluir_2, ui->btExcluir_3})
+        b->setText(Traduz(QStringLiteral("Excluir")));
+    QStringList notes;
+    for (const QString &key : m_kind.noteKeys)
+        notes << Traduz(key);
+    ui->lbNota->setText(notes.join(u'\n'));
+    ui->Botao1->setText(Traduz(QStringLiteral("VCore")));
+    ui->Botao2->setText(Traduz(QStringLiteral("Buck Teste")));
+    ui->Botao3->setText(QStringLiteral("NAND"));
+
+    const QSqlRecord record = m_data1->record();
+    for (const auto &[column, key] : GridColumns) {
+        const int index = record.indexOf(column);
+        if (index < 0)
+            continue;
+        QString text = Traduz(key);
+        if (column.startsWith(u'G'))
+            text += u' ' + column.mid(1);
+        m_data1->setHeaderData(index, Qt::Horizontal, text);
+    }
+}
+
+void RailScreen::setScreenOpener(std::function<void(const QString &)> opener)
+{
+    m_opener = std::move(opener);
+    const bool show = bool(m_opener);
+    const QList<QPair<QPushButton *, QString>> buttons = {
+        {ui->Botao1, QStringLiteral("VCores")}, {ui->Botao2, QStringLiteral("BuckTeste")}, {ui->Botao3, QStringLiteral("Nand")}};
+    for (const auto &[button, screen] : buttons) {
+        button->setVisible(show);
+        disconnect(button, &QPushButton::clicked, nullptr, nullptr);
+        connect(button, &QPushButton::clicked, this, [this, screen] {
+            if (m_opener)
+                m_opener(screen);
+        });
+    }
+}
+
+RailSettings RailScreen::settings() const
+{
+    RailSettings s;
+    s.voltDecimals = qBound(1, ui->ComboDecimais->currentText().toInt(), 3);
+    s.ampDecimals = qBound(0, ui->ComboDecimaisAmp->currentText().toInt(), 3);
+    s.noReading = Traduz(QStringLiteral("Sem Medição")) + u'*';
+    return s;
+}
+
+MasterFilter RailScreen::gridFilter() const
+{
+    MasterFilter filter;
+    filter.modelo = session().modelo();
+    filter.tipo = m_kind.tipo;
+    const QString chip = ui->cbICs->currentText();
+    if (m_kind.chipFilter && !chip.isEmpty() && !AllChips.contains(chip))
+        filter.ciContains = chip;
+    if (ui->OpIc->isChecked())
+        filter.order = m_kind.orderIc;
+    else if (ui->OpPorc->isChecked())
+        filter.order = MasterFilter::Order::PorcDesc;
+    else
+        filter.order = m_kind.orderMalha;
+    return filter;
+}
+
+void RailScreen::bindGrid(const MasterFilter &filter)
+{
+    m_data1->setQuery(m_db->masterQuery(filter));
+    while (m_data1->canFetchMore())
+        m_data1->fetchMore();
+    const QSqlRecord record = m_data1->record();
+    for (int i = 0; i < record.count(); ++i) {
+        const bool shown = std::any_of(GridColumns.begin(), GridColumns.end(),
+                                       [&](const auto &c) { return c.first == record.fieldName(i); });
+        ui->grid->setColumnHidden(i, !shown);
+    }
+    retranslate();
+}
+
+void RailScreen::MontaConsultaGrade()
+{
+    bindGrid(gridFilter());
+}
+
+void RailScreen::PrePesquisa()
+{
+    MasterFilter filter;
+    filter.modelo = session().modelo();
+    filter.tipo = m_kind.tipo;
+    filter.order = m_kind.loadOrder;
+    bindGrid(filter);
+}
+
+void RailScreen::PrePesquisaNand()
+{
+    bindGrid(Database::nandFilter(session().modelo()));
+}
+
+void RailScreen::LimpaLeituras()
+{
+    if (!m_db->clearReadings())
+        storeFailed();
+}
+
+void RailScreen::ExecutaLeitura()
+{
+    if (m_reading || !session().connectedAndIdle())
+        return;
+    LimpaLeituras();
+    MontaConsultaGrade();
+    IniciaLeitura();
+}
+
+void RailScreen::IniciaLeitura()
+{
+    m_reading = true;
+    ui->btExecutaLeitura->setEnabled(false);
+    ui->btExecutaLeitura->setText(Traduz(QStringLiteral("Processando comando")));
+    ui->Barra->setValue(0);
+    ui->FrameVCore->setVisible(true);
+    m_timerBarra.start();
+    {
+        const QSignalBlocker block(ui->OpMalha);
+        ui->OpMalha->setChecked(true);
+    }
+    ui->Frame1->setEnabled(false);
+    ui->ComboDecimais->setEnabled(false);
+    ui->ComboDecimaisAmp->setEnabled(false);
+    ui->cbICs->setEnabled(false);
+    m_timer1Ticks = 0;
+    enviaComando(m_kind.screenId, Command);
+    m_timer1.start();
+}
+
+void RailScreen::onTimer1()
+{
+    ++m_timer1Ticks;
+    if (!session().connectedAndIdle()) {
+        // A pulled cable or a wait far beyond the longest answer: give the screen back as it was.
+        if (session().connectionFlag() == QLatin1String("0") || m_timer1Ticks > Timer1TickLimit) {
+            m_timer1.stop();
+            finishWaiting();
+        }
+        return;
+    }
+    ProcessaLeituras();
+    ui->btExecutaLeitura->setText(Traduz(QStringLiteral("Executar Leitura")));
+    m_timer1.stop();
+    m_timer2.start();
+}
+
+void RailScreen::ProcessaLeituras()
+{
+    const QString answer = exchange().console();
+    if (answer.isEmpty()) {
+        ui->ComboDecimais->setEnabled(true);
+        ui->ComboDecimaisAmp->setEnabled(true);
+        ui->FrameVCore->setVisible(false);
+        m_timerBarra.stop();
+        m_timer1.stop();
+        m_timer2.stop();
+        return;
+    }
+    LimpaLeituras();
+    MasterFilter filter;
+    filter.modelo = session().modelo();
+    filter.tipo = m_kind.tipo;
+    filter.withReftOnly = true;
+    filter.order = MasterFilter::Order::ModeloOrig;
+
+    QList<RailReference> references;
+    for (const MasterRow &row : m_db->masterRows(filter))
+        references.append({row.malha, row.reft, row.refv, row.ci});
+    QList<RailReading> rows;
+    for (const RailMeasurement &m : RailEngine::ProcessaLeituras(answer, references, settings()))
+        rows.append({session().modelo(), m.malha, m.leitura, m.porc});
+    if (!m_db->writeReadings(rows))
+        storeFailed();
+    ui->ComboDecimais->setEnabled(true);
+    ui->ComboDecimaisAmp->setEnabled(true);
+}
+
+void RailScreen::onTimer2()
+{
+    m_timer2.stop();
+    MontaConsultaGrade();
+    finishWaiting();
+}
+
+void RailScreen::finishWaiting()
+{
+    m_reading = false;
+    ui->btExecutaLeitura->setText(Traduz(QStringLiteral("Executar Leitura")));
+    ui->FrameVCore->setVisible(false);
+    m_timerBarra.stop();
+    ui->btExecutaLeitura->setEnabled(session().connectedAndIdle());
+    ui->Frame1->setEnabled(true);
+    ui->cbICs->setEnabled(true);
+    ui->ComboDecimais->setEnabled(true);
+    ui->ComboDecimaisAmp->setEnabled(true);
+}
+
+void RailScreen::onTimerBarra()
+{
+    const int next = ui->Barra->value() + 2;
+    ui->Barra->setValue(next > BarraSteps ? 0 : next);
+}
+
+void RailScreen::restartIfIdle()
+{
+    if (!m_loading && !m_reading && session().connectedAndIdle())
+        ExecutaLeitura();
+}
+
+void RailScreen::decimalsChosen(int combo, const QString &value)
+{
+    if (m_loading)
+        return;
+    if (!m_db->setCombo(combo, value))
+        storeFailed();
+    restartIfIdle();
+}
+
+void RailScreen::chipChosen(const QString &chip)
+{
+    if (m_loading || m_reading)
+        return;
+    MontaConsultaGrade();
+    if (ReadingChips.contains(chip))
+        restartIfIdle();
+}
+
+void RailScreen::gravar(int slot)
+{
+    if (!session().connectedAndIdle() || !ui->btExecutaLeitura->isEnabled())
+        return;
+    if (!dialogs().question(this, Traduz(QStringLiteral("Gravar")), Traduz(QStringLiteral("Deseja salvar?"))))
+        return;
+    if (!m_db->recordReadings(slot, gridFilter()))
+        storeFailed();
+    MontaConsultaGrade();
+    m_saved = true;
+}
+
+void RailScreen::excluir(int slot)
+{
+    if (!dialogs().question(this, Traduz(QStringLiteral("Excluir")),
+                            Traduz(QStringLiteral("Deseja excluir os dados gravados?"))))
+        return;
+    if (!m_db->clearRecordings(slot, gridFilter()))
+        storeFailed();
+    MontaConsultaGrade();
+}
+
+void RailScreen::storeFailed()
+{
+    dialogs().critical(this, QStringLiteral("Config.vkt"), m_db->lastError());
+}

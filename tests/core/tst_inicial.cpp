@@ -1,0 +1,202 @@
+// The main window and the language screen on a real Config.vkt copy: the model list and its
+// memory across starts, the menu holding only registered screens, one instance per screen,
+// and a language change that closes the test screens, re-captions the frame and persists.
+
+#include "ConnectionController.h"
+#include "ConsoleExchange.h"
+#include "Database.h"
+#include "FakeDialogs.h"
+#include "FakeSerialPort.h"
+#include "Inicial.h"
+#include "PortList.h"
+#include "Session.h"
+#include "TestScreen.h"
+#include "xIdioma.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QtTest>
+#include <memory>
+
+namespace {
+
+class DummyScreen : public TestScreen
+{
+public:
+    using TestScreen::TestScreen;
+    void retranslate() override {}
+};
+
+// One program start on a given Config.vkt: session, link, exchange, frame and two screens.
+struct Program
+{
+    Session session;
+    FakeSerialPort port;
+    ConsoleExchange exchange{session, port};
+    ConnectionController connection{session, exchange, port};
+    PortList ports;
+    FakeDialogs dialogs;
+    std::unique_ptr<Inicial> inicial;
+
+    explicit Program(const QString &path) : session(path)
+    {
+        if (const auto idioma = Database(path).idioma())
+            session.setIdioma(*idioma);
+        inicial = std::make_unique<Inicial>(ScreenContext{session, exchange, dialogs}, connection, ports);
+        inicial->registerScreen(2, QStringLiteral("Master"), QStringLiteral("Modo Comandos e Comparador"),
+                                [](const ScreenContext &ctx) -> QWidget * { return new DummyScreen(ctx, "Master"); });
+        Inicial *window = inicial.get();
+        inicial->registerScreen(10, QStringLiteral("xIdioma"), QStringLiteral("Idioma / Language"),
+                                [window](const ScreenContext &ctx) -> QWidget * {
+                                    return new xIdioma(ctx.session, ctx.dialogs, [window] { window->closeTestScreens(); });
+                                }, false);
+    }
+    template<typename T> T *find(const char *name) { return inicial->findChild<T *>(QString::fromLatin1(name)); }
+};
+
+} // namespace
+
+class TestInicial : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir m_dir;
+    QString m_path;
+
+private slots:
+    void init()
+    {
+        const QString shipped = QStringLiteral(VEKTO_BIN_DIR "/Config.vkt");
+        if (!QFile::exists(shipped))
+            QSKIP("Config.vkt was not built");
+        m_path = m_dir.filePath(QStringLiteral("Config.vkt"));
+        QFile::remove(m_path);
+        QVERIFY(QFile::copy(shipped, m_path));
+        QFile::setPermissions(m_path, QFile::ReadOwner | QFile::WriteOwner);
+    }
+
+    void modelListAndMemory()
+    {
+        {
+            Program p(m_path);
+            auto *combo = p.find<QComboBox>("ComboAparelhos");
+            QStringList items;
+            for (int i = 0; i < combo->count(); ++i)
+                items << combo->itemText(i);
+            QCOMPARE(items, (QStringList{"IP 6", "IP 6 Plus", "IP 6s", "IP 6s Plus", "IP 7", "IP 7 Plus", "IP 8",
+                                         "IP 8 Plus", "IP X"}));
+            QCOMPARE(combo->currentText(), QStringLiteral("IP 7"));
+            combo->setCurrentText(QStringLiteral("IP 8 Plus"));
+            QCOMPARE(p.session.modelo(), QStringLiteral("IP 8 Plus"));
+            QCOMPARE(p.find<QComboBox>("ComboAparelhosX")->currentText(), QStringLiteral("IP 8 Plus"));
+            p.inicial->close();
+        }
+        QCOMPARE(Database(m_path).ultimoModelo().value_or(QString()), QStringLiteral("IP 8 Plus"));
+        Program again(m_path);
+        QCOMPARE(again.find<QComboBox>("ComboAparelhos")->currentText(), QStringLiteral("IP 8 Plus"));
+        QCOMPARE(again.session.modelo(), QStringLiteral("IP 8 Plus"));
+    }
+
+    void recognisedModelReachesBothLists()
+    {
+        Program p(m_path);
+        emit p.connection.modelRecognised(QStringLiteral("IP X"));
+        QCOMPARE(p.find<QComboBox>("ComboAparelhos")->currentText(), QStringLiteral("IP X"));
+        QCOMPARE(p.find<QComboBox>("ComboAparelhosX")->currentText(), QStringLiteral("IP X"));
+    }
+
+    void statusLightFollowsTheConnection()
+    {
+        Program p(m_path);
+        QCOMPARE(p.inicial->status(), QStringLiteral("Branco"));
+        p.port.openError = SerialPort::NoError;
+        p.connection.connectClicked(QStringLiteral("/dev/fake"), QStringLiteral("fake"));
+        QCOMPARE(p.inicial->status(), QStringLiteral("Amarelo"));
+        QCOMPARE(p.find<QLabel>("lbConexao")->text(), QStringLiteral("Conectando"));
+        QCOMPARE(p.find<QPushButton>("Botoes_1")->text(), QStringLiteral("Conectando"));
+        p.session.setConnectionFlag(QStringLiteral("1"));
+        p.connection.connectClicked(QStringLiteral("/dev/fake"), QStringLiteral("fake"));
+        QCOMPARE(p.inicial->status(), QStringLiteral("Branco"));
+        QCOMPARE(p.find<QPushButton>("Botoes_1")->text(), QStringLiteral("Conectar"));
+        QCOMPARE(p.find<QLabel>("lbConexao")->text(), QStringLiteral("Desconectado"));
+    }
+
+    void openFailureShowsTheMessage()
+    {
+        Program p(m_path);
+        p.port.openError = SerialPort::PortAlreadyOpen;
+        p.connection.connectClicked(QStringLiteral("/dev/fake"), QStringLiteral("fake"));
+        QCOMPARE(p.dialogs.shown, QStringList{QStringLiteral("MSG_PORTA_EM_USO")});
+        QCOMPARE(p.inicial->status(), QStringLiteral("Branco"));
+    }
+
+    void menuHoldsOnlyRegisteredScreens()
+    {
+        Program p(m_path);
+        QVERIFY(p.find<QPushButton>("Botoes_2"));
+        QVERIFY(p.find<QPushButton>("Botoes_10"));
+        QVERIFY(!p.find<QPushButton>("Botoes_5"));
+        QCOMPARE(p.find<QPushButton>("Botoes_2")->toolTip(), QStringLiteral("Modo Comandos e Comparador"));
+
+        QWidget *first = p.inicial->openScreen(QStringLiteral("Master"));
+        QVERIFY(first);
+        QVERIFY(p.session.isOpen(QStringLiteral("Master")));
+        QCOMPARE(p.inicial->openScreen(QStringLiteral("Master")), first);
+        QVERIFY(!p.inicial->openScreen(QStringLiteral("RFs")));
+    }
+
+    void languageChange_data()
+    {
+        QTest::addColumn<quint8>("idioma");
+        QTest::addColumn<QString>("connect");
+        QTest::addColumn<QString>("portuguese");
+        QTest::newRow("English") << quint8(2) << "Connect" << "PORTUGUESE";
+        QTest::newRow("Spanish") << quint8(3) << "Conectar" << "PORTUGUÉS";
+        QTest::newRow("same language again") << quint8(1) << "Conectar" << "PORTUGUÊS";
+    }
+    void languageChange()
+    {
+        QFETCH(quint8, idioma);
+        QFETCH(QString, connect);
+        QFETCH(QString, portuguese);
+        {
+            Program p(m_path);
+            QVERIFY(p.inicial->openScreen(QStringLiteral("Master")));
+            auto *idiomaScreen = qobject_cast<xIdioma *>(p.inicial->openScreen(QStringLiteral("xIdioma")));
+            QVERIFY(idiomaScreen);
+            idiomaScreen->findChild<QPushButton *>(QStringLiteral("btIdioma_%1").arg(idioma))->click();
+
+            QVERIFY(!p.session.isOpen(QStringLiteral("Master")));
+            QVERIFY(!p.inicial->screen(QStringLiteral("Master")));
+            QVERIFY(p.inicial->screen(QStringLiteral("xIdioma")));
+            QCOMPARE(p.session.idioma(), idioma);
+            QCOMPARE(p.find<QPushButton>("Botoes_1")->text(), connect);
+            QCOMPARE(idiomaScreen->findChild<QPushButton *>(QStringLiteral("btIdioma_1"))->text(), portuguese);
+            // Screens opened afterwards appear in the new language.
+            QVERIFY(p.inicial->openScreen(QStringLiteral("Master")));
+            QVERIFY(p.dialogs.shown.isEmpty());
+        }
+        QCOMPARE(Database(m_path).idioma().value_or(0), idioma);
+        Program next(m_path);
+        QCOMPARE(next.find<QPushButton>("Botoes_1")->text(), connect);
+    }
+
+    void languageNotStoredOnAReadOnlyFile()
+    {
+        Program p(m_path);
+        QFile::setPermissions(m_path, QFile::ReadOwner);
+        if (QFileInfo(m_path).isWritable())
+            QSKIP("running as a user the file permissions do not stop");
+        auto *idiomaScreen = qobject_cast<xIdioma *>(p.inicial->openScreen(QStringLiteral("xIdioma")));
+        idiomaScreen->btIdioma_Click(2);
+        QCOMPARE(p.session.idioma(), quint8(2));
+        QCOMPARE(p.dialogs.shown.size(), 1);
+        QVERIFY(p.dialogs.shown.first().startsWith(QStringLiteral("critical:")));
+        QCOMPARE(Database(m_path).idioma().value_or(0), quint8(1));
+    }
+};
+
+QTEST_MAIN(TestInicial)
+#include "tst_inicial.moc"

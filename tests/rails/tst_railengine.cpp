@@ -1,0 +1,151 @@
+// Reading rails out of a console answer: units, per cents, time-outs, decimals and bad input.
+#include "RailEngine.h"
+
+#include <QtTest>
+
+namespace {
+
+QString answerWith(const QString &lines)
+{
+    return QStringLiteral("\r\npmuadc --read all\r\r\n") + lines + QStringLiteral("[0000001A:0000BEEF] :-) ");
+}
+
+} // namespace
+
+class TestRailEngine : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void readRail_data()
+    {
+        QTest::addColumn<QString>("lines");
+        QTest::addColumn<QString>("refv");
+        QTest::addColumn<int>("voltDecimals");
+        QTest::addColumn<int>("ampDecimals");
+        QTest::addColumn<QString>("leitura");
+        QTest::addColumn<QString>("porc");
+        QTest::addColumn<bool>("measured");
+
+        const QString none = QStringLiteral("Sem Medição*");
+        QTest::newRow("850 mV") << "PP_CPU 850 mV\r\r\n" << "0.850" << 3 << 1 << "0.850 V" << "0 %" << true;
+        QTest::newRow("5 mV") << "PP_CPU 5 mV\r\r\n" << "" << 3 << 1 << "0.005 V" << "" << true;
+        QTest::newRow("negative") << "PP_CPU -12 mV\r\r\n" << "" << 3 << 1 << "-0.012 V" << "" << true;
+        QTest::newRow("zero") << "PP_CPU 0 mV\r\r\n" << "" << 3 << 1 << "0 V" << "" << true;
+        QTest::newRow("fraction from the device") << "PP_CPU 4998.250 mV\r\r\n" << "5.000" << 3 << 1
+                                                  << "4.998 V" << "-0,2 %" << true;
+        QTest::newRow("fixed band") << "PP_CPU 853 mV\r\r\n" << "0.850" << 3 << 1 << "0.853 V" << "0,3 %" << true;
+        QTest::newRow("cut not rounded") << "PP_CPU 900 mV\r\r\n" << "0.850" << 3 << 1 << "0.900 V" << "5,8 %" << true;
+        QTest::newRow("low rail") << "PP_CPU 700 mV\r\r\n" << "0.850" << 3 << 1 << "0.700 V" << "-17,6 %" << true;
+        QTest::newRow("two decimals") << "PP_CPU 853 mV\r\r\n" << "0.850" << 2 << 1 << "0.85 V" << "0,3 %" << true;
+        QTest::newRow("two decimals to zero") << "PP_CPU 4 mV\r\r\n" << "" << 2 << 1 << "0 V" << "" << true;
+        QTest::newRow("one decimal negative") << "PP_CPU -1234 mV\r\r\n" << "" << 1 << 1 << "-1.2 V" << "" << true;
+        QTest::newRow("ten volts cut short") << "PP_CPU 12345 mV\r\r\n" << "" << 3 << 1 << "12.34 V" << "" << true;
+        QTest::newRow("zero reading against reference") << "PP_CPU 0 mV\r\r\n" << "0.850" << 3 << 1 << "0 V"
+                                                        << "-100 %" << true;
+        QTest::newRow("refv 0") << "PP_CPU 850 mV\r\r\n" << "0" << 3 << 1 << "0.850 V" << "0 %" << true;
+        QTest::newRow("current one decimal") << "PP_CPU 12.34 mA\r\r\n" << "" << 3 << 1 << "12,3 mA" << "" << true;
+        QTest::newRow("current no decimal") << "PP_CPU 12.34 mA\r\r\n" << "" << 3 << 0 << "12 mA" << "" << true;
+        QTest::newRow("current three decimals") << "PP_CPU 12.3456 mA\r\r\n" << "" << 3 << 3 << "12,345 mA" << ""
+                                                << true;
+        QTest::newRow("current fewer digits than asked") << "PP_CPU 12.34 mA\r\r\n" << "" << 3 << 3 << "12,3 mA"
+                                                         << "" << true;
+        QTest::newRow("current refv 0") << "PP_CPU 12.34 mA\r\r\n" << "0" << 3 << 1 << "12,3 mA" << "0 %" << true;
+        QTest::newRow("label found twice") << "PP_CPU 850 mV\r\r\nPP_CPU 900 mV\r\r\n" << "0.850" << 3 << 1
+                                           << "0.850 V" << "0 %" << true;
+        QTest::newRow("case-sensitive") << "pp_cpu 850 mV\r\r\n" << "0.850" << 3 << 1 << none << "0 %" << false;
+        QTest::newRow("missing with reference") << "PP_GPU 850 mV\r\r\n" << "0.850" << 3 << 1 << none << "0 %"
+                                                << false;
+        QTest::newRow("missing without reference") << "PP_GPU 850 mV\r\r\n" << "" << 3 << 1 << none << "" << false;
+        QTest::newRow("time-out") << "PP_CPU timeout mV\r\r\n" << "0.850" << 3 << 1 << none << "0 %" << false;
+        QTest::newRow("not a number") << "PP_CPU 8x0 mV\r\r\n" << "0.850" << 3 << 1 << none << "0 %" << false;
+        QTest::newRow("empty value") << "PP_CPU  mV\r\r\n" << "0.850" << 3 << 1 << none << "0 %" << false;
+        QTest::newRow("single digit current") << "PP_CPU 5 mA\r\r\n" << "" << 3 << 1 << none << "" << false;
+    }
+
+    void readRail()
+    {
+        QFETCH(QString, lines);
+        QFETCH(QString, refv);
+        QFETCH(int, voltDecimals);
+        QFETCH(int, ampDecimals);
+        QFETCH(QString, leitura);
+        QFETCH(QString, porc);
+        QFETCH(bool, measured);
+
+        const RailReference row{QStringLiteral("PP_CPU_NET"), QStringLiteral("PP_CPU"), refv, QStringLiteral("CPU")};
+        RailSettings settings;
+        settings.voltDecimals = voltDecimals;
+        settings.ampDecimals = ampDecimals;
+        const RailMeasurement r = RailEngine::readRail(answerWith(lines), row, settings);
+        QCOMPARE(r.malha, QStringLiteral("PP_CPU_NET"));
+        QCOMPARE(r.leitura, leitura);
+        QCOMPARE(r.porc, porc);
+        QCOMPARE(r.measured, measured);
+    }
+
+    void valueWithNoBlankBehind()
+    {
+        // The answer ends right after the value: nothing marks its end.
+        const RailMeasurement r = RailEngine::readRail(QStringLiteral("PP_CPU 850"),
+                                                   {QStringLiteral("N"), QStringLiteral("PP_CPU"), QStringLiteral("0.850"), {}},
+                                                   {});
+        QCOMPARE(r.leitura, QStringLiteral("Sem Medição*"));
+        QVERIFY(!r.measured);
+        // A label at the very end of the answer.
+        QVERIFY(!RailEngine::readRail(QStringLiteral("x PP_CPU"), {QStringLiteral("N"), QStringLiteral("PP_CPU"), {}, {}}, {})
+                     .measured);
+    }
+
+    void processaLeituras()
+    {
+        const QList<RailReference> rows = {
+            {QStringLiteral("A"), QStringLiteral("buck0"), QStringLiteral("0.850"), {}},
+            {QStringLiteral("B"), QString(), QStringLiteral("1.800"), {}}, // no label: takes no reading
+            {QStringLiteral("C"), QStringLiteral("ldo3"), QStringLiteral("1.800"), {}},
+            {QStringLiteral("D"), QStringLiteral("buck1"), QStringLiteral("1.100"), {}},
+        };
+        const QString answer = answerWith(QStringLiteral("buck0 851 mV\r\r\nbuck1 tim mV\r\r\nldo3 1799 mV\r\r\n"));
+        const QList<RailMeasurement> out = RailEngine::ProcessaLeituras(answer, rows, {});
+        QCOMPARE(out.size(), 3);
+        QCOMPARE(out[0].malha, QStringLiteral("A"));
+        QCOMPARE(out[0].leitura, QStringLiteral("0.851 V"));
+        QCOMPARE(out[0].porc, QStringLiteral("0,1 %"));
+        QCOMPARE(out[1].malha, QStringLiteral("C"));
+        QCOMPARE(out[1].leitura, QStringLiteral("1.799 V"));
+        QCOMPARE(out[2].malha, QStringLiteral("D")); // a bad row does not stop the ones after it
+        QCOMPARE(out[2].leitura, QStringLiteral("Sem Medição*"));
+
+        QVERIFY(RailEngine::ProcessaLeituras(QString(), rows, {}).isEmpty());
+    }
+
+    void verdict_data()
+    {
+        QTest::addColumn<QString>("porc");
+        QTest::addColumn<bool>("measured");
+        QTest::addColumn<QString>("refv");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("exact") << "0 %" << true << "0.850" << int(RailVerdict::Pass);
+        QTest::newRow("at tolerance") << "-5,0 %" << true << "0.850" << int(RailVerdict::Pass);
+        QTest::newRow("beyond") << "5,8 %" << true << "0.850" << int(RailVerdict::Fail);
+        QTest::newRow("far below") << "-17,6 %" << true << "0.850" << int(RailVerdict::Fail);
+        QTest::newRow("no reading") << "0 %" << false << "0.850" << int(RailVerdict::Fail);
+        QTest::newRow("no reference") << "" << true << "" << int(RailVerdict::None);
+        QTest::newRow("no reading, no reference") << "" << false << "" << int(RailVerdict::None);
+    }
+
+    void verdict()
+    {
+        QFETCH(QString, porc);
+        QFETCH(bool, measured);
+        QFETCH(QString, refv);
+        QFETCH(int, expected);
+        RailMeasurement r;
+        r.porc = porc;
+        r.measured = measured;
+        QCOMPARE(int(RailEngine::verdict(r, refv, RailEngine::DefaultTolerancePercent)), expected);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestRailEngine)
+#include "tst_railengine.moc"
