@@ -86,6 +86,16 @@ Master::Master(const ScreenContext &ctx, Shell &shell, std::function<void(QWidge
 
 Master::~Master() = default;
 
+fmHelp *Master::helpWindow() const
+{
+    return m_help;
+}
+
+zAjustes *Master::adjustmentsWindow() const
+{
+    return m_adjustments;
+}
+
 void Master::retranslate()
 {
     setWindowTitle(Traduz(QStringLiteral("Modo Comandos e Comparador")) + QStringLiteral(" - Pelorin Vekto"));

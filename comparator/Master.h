@@ -57,8 +57,8 @@ public:
     static QString helpPdfName(quint8 idioma);
 
     bool waiting() const { return m_waiting; }
-    fmHelp *helpWindow() const { return m_help; }
-    zAjustes *adjustmentsWindow() const { return m_adjustments; }
+    fmHelp *helpWindow() const;
+    zAjustes *adjustmentsWindow() const;
 
 private:
     void handOver(const QString &answer);
