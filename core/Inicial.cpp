@@ -158,6 +158,8 @@ QWidget *Inicial::openScreen(const QString &name)
     QMdiSubWindow *window = ui->mdiArea->addSubWindow(widget);
     window->setAttribute(Qt::WA_DeleteOnClose);
     it->window = window;
+    // Screens open large enough to show their grids, but never beyond the frame.
+    window->resize(window->sizeHint().expandedTo(QSize(960, 640)).boundedTo(ui->mdiArea->viewport()->size()));
     window->show();
     return widget;
 }
