@@ -7,9 +7,11 @@
 #include "Database.h"
 #include "Dialogs.h"
 #include "Inicial.h"
+#include "Master.h"
 #include "PortList.h"
 #include "QtSerialPort.h"
 #include "Session.h"
+#include "Shell.h"
 #include "Startup.h"
 #include "VCores.h"
 #include "xIdioma.h"
@@ -47,6 +49,11 @@ int main(int argc, char **argv)
 
     // Every screen opens a screen of its own kind through the main window, so it stays one instance.
     const auto opener = [&inicial](const QString &name) { inicial.openScreen(name); };
+    QtShell shell;
+    inicial.registerScreen(2, QStringLiteral("Master"), QStringLiteral("Modo Comandos e Comparador"),
+                           [&inicial, &shell](const ScreenContext &ctx) -> QWidget * {
+                               return new Master(ctx, shell, [&inicial](QWidget *w) { inicial.showChildWindow(w); });
+                           });
     inicial.registerScreen(3, QStringLiteral("VCores"), QStringLiteral("VCore"),
                            [](const ScreenContext &ctx) -> QWidget * { return new VCores(ctx); });
     inicial.registerScreen(4, QStringLiteral("BuckLdo"), QStringLiteral("Buck / Ldo"),

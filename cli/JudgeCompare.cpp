@@ -23,12 +23,16 @@ struct Verdict
     QString status;
 };
 
-Verdict judge(const QString &answer, const std::optional<DadosRecord> &recorded, const QStringList &masks)
+Verdict judge(const QString &command, const QString &answer, const std::optional<DadosRecord> &recorded,
+              const QStringList &masks)
 {
     if (!recorded)
         return {QStringLiteral("..."), QStringLiteral("none"), QStringLiteral("no recorded answer")};
-    // The console clears the long-answer flag before it compares, so every answer is judged.
-    const auto mark = AutoComparador::evaluate(answer, recorded->dados, masks, false);
+    // The console never compares the answers of its long-answer commands; neither does the judge.
+    const auto mark = AutoComparador::evaluate(answer, recorded->dados, masks,
+                                               AutoComparador::isLongAnswerCommand(command));
+    if (mark == AutoComparador::Mark::Unchanged)
+        return {QStringLiteral("..."), QStringLiteral("none"), QStringLiteral("long answer, not compared")};
     if (mark == AutoComparador::Mark::Shown)
         return {QStringLiteral("Auto Comparador OK"), QStringLiteral("pass"), QStringLiteral("ok")};
     return {QStringLiteral("..."), QStringLiteral("fail"), QStringLiteral("ok")};
@@ -83,7 +87,7 @@ int runJudgeCompare(const QStringList &args, QTextStream &out, QTextStream &err)
         err << "vekto-cli: cannot read the database " << dbPath << ": " << db.lastError() << Qt::endl;
         return 1;
     }
-    const Verdict v = judge(answer, recorded, masks);
+    const Verdict v = judge(command, answer, recorded, masks);
 
     if (parser.isSet(QStringLiteral("json"))) {
         const QJsonObject row{{QStringLiteral("name"), QStringLiteral("lbAutoComparador")},

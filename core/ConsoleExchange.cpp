@@ -133,7 +133,6 @@ void ConsoleExchange::endOfAnswer()
 {
     restoreCaption();
     m_session.setLiveEcho(false);
-    m_session.setLongAnswer(false);
 
     // Copy the receiver first: a hand-over may open or close screens and so change the table.
     const AnswerReceiver *receiver = receiverOf(m_session.screenId());
@@ -141,6 +140,9 @@ void ConsoleExchange::endOfAnswer()
         const auto handOver = receiver->handOver;
         handOver(m_console);
     }
+    // Cleared only after the hand-over: the receiving screen must still see that this answer
+    // was a long one, or the flag could never keep a long answer out of the comparison.
+    m_session.setLongAnswer(false);
 
     m_session.setScreenId(QStringLiteral("0"));
     m_session.setConnectionFlag(QStringLiteral("1"));

@@ -172,6 +172,13 @@ QWidget *Inicial::screen(const QString &name) const
     return it->window->widget();
 }
 
+void Inicial::showChildWindow(QWidget *window)
+{
+    QMdiSubWindow *sub = ui->mdiArea->addSubWindow(window);
+    sub->setAttribute(Qt::WA_DeleteOnClose);
+    sub->show();
+}
+
 void Inicial::closeTestScreens()
 {
     for (Registration &reg : m_screens) {

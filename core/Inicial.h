@@ -36,6 +36,8 @@ public:
     // Shows the single instance of a registered screen, creating it when it is not open.
     QWidget *openScreen(const QString &name);
     QWidget *screen(const QString &name) const;
+    // Shows a window that a screen opens of its own (help, administration) inside the frame.
+    void showChildWindow(QWidget *window);
     void closeTestScreens();
 
     void Traducao_Form_Inicial();

@@ -65,6 +65,8 @@ void TestJudgeCompare::verdicts_data()
     // The board's UID is masked in the recording and in the answer alike.
     const QString uid = demo::consoleText(ip7, QStringLiteral("nanduid"));
     QTest::newRow("masked UID") << "IP 7" << "nanduid" << uid << "pass" << "Auto Comparador OK" << "ok";
+    const QString help = demo::consoleText(ip7, QStringLiteral("Help"));
+    QTest::newRow("long answer") << "IP 7" << "Help" << help << "none" << "..." << "long answer, not compared";
     QTest::newRow("quote in the model") << "IP 7'" << "nanduid" << uid << "none" << "..." << "no recorded answer";
 }
 

@@ -252,8 +252,12 @@ private slots:
         QSignalSpy caption(&rig.exchange, &ConsoleExchange::captionChanged);
         rig.session.setLiveEcho(true);
         rig.session.setLongAnswer(true);
-        rig.send(QStringLiteral("x"));
+        bool longDuringHandOver = false;
+        rig.exchange.registerReceiver(QStringLiteral("1"), &rig.exchange,
+                                      {[&](const QString &) { longDuringHandOver = rig.session.longAnswer(); }, {}});
+        rig.send(QStringLiteral("x"), QStringLiteral("1"));
         runToEnd(rig.exchange);
+        QVERIFY(longDuringHandOver);
         QCOMPARE(caption.count(), 2);
         QCOMPARE(caption[1][0].toString(), QStringLiteral("Pelorin Vekto 1.81"));
         QVERIFY(!rig.session.liveEcho());
