@@ -1,5 +1,7 @@
 #include "ConsoleTextEdit.h"
 
+#include <QScrollBar>
+
 ConsoleTextEdit::ConsoleTextEdit(QWidget *parent) : QPlainTextEdit(parent)
 {
     connect(this, &QPlainTextEdit::textChanged, this, [this] {
@@ -22,6 +24,8 @@ void ConsoleTextEdit::setRawText(const QString &text)
     m_raw = text;
     setPlainText(displayed(text));
     moveCursor(QTextCursor::End);
+    // Ending on the prompt line must not scroll the start of every line out of sight.
+    horizontalScrollBar()->setValue(0);
     m_setting = false;
 }
 

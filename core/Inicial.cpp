@@ -54,8 +54,6 @@ Inicial::Inicial(const ScreenContext &context, ConnectionController &connection,
     ui->ComboAparelhosX->hide();
     ui->ComboAparelhos->setCurrentText(QStringLiteral("IP 7"));
     ui->ComboAparelhosX->setCurrentText(QStringLiteral("IP 7"));
-    ui->mdiArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    ui->mdiArea->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     static_cast<QVBoxLayout *>(ui->FrameMenu->layout())->addStretch();
 
     connect(ui->ComboAparelhos, &QComboBox::currentTextChanged, this, &Inicial::selectModel);
@@ -160,6 +158,7 @@ QWidget *Inicial::openScreen(const QString &name)
     it->window = window;
     // Screens open large enough to show their grids, but never beyond the frame.
     window->resize(window->sizeHint().expandedTo(QSize(960, 640)).boundedTo(ui->mdiArea->viewport()->size()));
+    window->move(0, 0);
     window->show();
     return widget;
 }
