@@ -22,6 +22,8 @@
 
 struct DesktopProgram
 {
+    static inline const QString ConsoleId = QStringLiteral("1");
+
     Session session;
     QtSerialPortLink port;
     ConsoleExchange exchange{session, port};
@@ -29,6 +31,8 @@ struct DesktopProgram
     PortList ports;
     FakeDialogs dialogs;
     std::unique_ptr<Inicial> inicial;
+    // Answers handed over to the command console's identifier, in order.
+    QStringList answers;
 
     explicit DesktopProgram(const QString &configPath) : session(configPath)
     {
@@ -37,6 +41,15 @@ struct DesktopProgram
             return Database(session.configPath()).modeloRef(number);
         });
         inicial = std::make_unique<Inicial>(ScreenContext{session, exchange, dialogs}, connection, ports);
+        exchange.registerReceiver(ConsoleId, nullptr, {[this](const QString &answer) { answers << answer; }, {}});
+    }
+
+    // What a screen does to send: claim the next answer, fill the command field, send.
+    void send(const QString &command)
+    {
+        session.setScreenId(ConsoleId);
+        exchange.setCommandField(command);
+        exchange.EnviaComando();
     }
 
     template<typename T> T *find(const char *name) const
