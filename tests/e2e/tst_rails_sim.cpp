@@ -3,18 +3,13 @@
 // the low-rail board shows its core rail clearly off.
 #include "ConsoleExchange.h"
 #include "Database.h"
-#if defined(__GNUC__) && !defined(__clang__)
-// GCC 12 sees a moved-from optional<QString> in the fake's input queue as uninitialised.
-#endif
 #include "FakeDialogs.h"
 #include "QtSerialPort.h"
 #include "RailEngine.h"
 #include "Session.h"
+#include "SimProcess.h"
 #include "VCores.h"
 
-#include <QFile>
-#include <QProcess>
-#include <QTemporaryDir>
 #include <QtTest>
 
 class TestRailsSim : public QObject
@@ -37,21 +32,15 @@ private slots:
         QFETCH(QString, model);
         QFETCH(QString, profile);
         QFETCH(QStringList, offRails);
-        const QString sim = QStringLiteral(VEKTO_BIN_DIR "/vekto-sim");
-        if (!QFile::exists(sim) || !QFile::exists(QStringLiteral(VEKTO_BIN_DIR "/Config.vkt")))
+        if (!SimProcess::available())
             QSKIP("vekto-sim or Config.vkt was not built");
-
-        QTemporaryDir dir;
-        const QString path = dir.filePath(QStringLiteral("Config.vkt"));
-        QVERIFY(QFile::copy(QStringLiteral(VEKTO_BIN_DIR "/Config.vkt"), path));
-        QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
-
-        QProcess phone;
-        phone.start(sim, {QStringLiteral("--model"), model, QStringLiteral("--profile"), profile});
-        QVERIFY(phone.waitForStarted());
-        QTRY_VERIFY_WITH_TIMEOUT(phone.canReadLine(), 10000);
-        const QString pty = QString::fromUtf8(phone.readLine()).trimmed();
-        QVERIFY2(pty.startsWith(u'/'), qPrintable(pty));
+        ConfigCopy config;
+        QVERIFY(config.ok());
+        const QString path = config.path();
+        SimProcess phone;
+        const QString started = phone.start(model, profile);
+        QVERIFY2(started.isEmpty(), qPrintable(started));
+        const QString pty = phone.port();
 
         Session session(path);
         session.setModelo(model);
@@ -68,8 +57,7 @@ private slots:
             QVERIFY2(dialogs.shown.isEmpty(), qPrintable(dialogs.shown.join(u'\n')));
         }
         port.close();
-        phone.kill();
-        phone.waitForFinished();
+        phone.stop();
 
         MasterFilter filter;
         filter.modelo = model;
