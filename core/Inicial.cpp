@@ -114,7 +114,11 @@ void Inicial::wireConnection()
     connect(&m_connection, &ConnectionController::message, this, [this](const QString &key, const QString &porta) {
         m_context.dialogs.Mensagem(this, key, m_context.session.idioma(), porta);
     });
-    connect(&m_connection, &ConnectionController::refillPorts, this, &Inicial::fillPorts);
+    // After a failed or lost connection the list is scanned afresh: a pulled box must not stay listed.
+    connect(&m_connection, &ConnectionController::refillPorts, this, [this] {
+        m_ports.refresh();
+        fillPorts();
+    });
 }
 
 void Inicial::registerScreen(int botao, const QString &name, const QString &tooltipKey, ScreenFactory factory,
