@@ -150,6 +150,27 @@ QString Database::firstRowValue(const QString &sql, bool *found)
     return query.value(0).toString();
 }
 
+std::optional<QString> Database::firstRowText(const QString &sql)
+{
+    bool found = false;
+    const QString value = firstRowValue(sql, &found);
+    if (!found)
+        return std::nullopt;
+    return value;
+}
+
+QStringList Database::firstColumn(const QString &sql, const QVariantList &values)
+{
+    QStringList texts;
+    QSqlQuery query = prepare(sql, values);
+    query.setForwardOnly(true);
+    if (!exec(query))
+        return texts;
+    while (query.next())
+        texts.append(query.value(0).toString());
+    return texts;
+}
+
 bool Database::setSingleRowColumn(const QString &table, const QString &column, const QString &value)
 {
     // Settings tables hold one row; a file that lost it gets it back rather than refusing.

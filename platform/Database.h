@@ -115,6 +115,11 @@ private:
     bool ready();
     void fail(const QString &reason) { m_lastError = reason; }
     QString firstRowValue(const QString &sql, bool *found);
+    std::optional<QString> firstRowText(const QString &sql);
+    QStringList firstColumn(const QString &sql, const QVariantList &values = {});
+    // Copies `source` (a column or a literal) into recorded slot G1..G3 of the given rows.
+    bool fillSlot(int slot, const QString &source, const QList<MasterKey> &rows);
+    bool fillSlot(int slot, const QString &source, const MasterFilter &rows);
     bool setSingleRowColumn(const QString &table, const QString &column, const QString &value);
 
     QString m_path;

@@ -166,14 +166,7 @@ bool Database::deleteDados(const QString &aparelho, const QString &comando)
 
 QStringList Database::maskTexts()
 {
-    QStringList texts;
-    QSqlQuery query = prepare(QStringLiteral("SELECT String FROM M ORDER BY String DESC"));
-    query.setForwardOnly(true);
-    if (!exec(query))
-        return texts;
-    while (query.next())
-        texts.append(query.value(0).toString());
-    return texts;
+    return firstColumn(QStringLiteral("SELECT String FROM M ORDER BY String DESC"));
 }
 
 bool Database::addMaskText(const QString &text)

@@ -139,53 +139,42 @@ bool Database::writeReadings(const QList<RailReading> &readings)
 
 bool Database::recordReadings(int slot, const QList<MasterKey> &rows)
 {
-    const auto column = slotColumn(slot);
-    if (!column) {
-        fail(QStringLiteral("Recorded slot %1 does not exist").arg(slot));
-        return false;
-    }
-    return inTransaction([&] {
-        for (const MasterKey &row : rows) {
-            if (!execute(QStringLiteral("UPDATE Master SET %1 = Leitura WHERE Modelo = ? AND Malha = ?").arg(*column),
-                         {row.modelo, row.malha}))
-                return false;
-        }
-        return true;
-    });
+    return fillSlot(slot, QStringLiteral("Leitura"), rows);
 }
 
 bool Database::recordReadings(int slot, const MasterFilter &rows)
 {
-    const auto column = slotColumn(slot);
-    if (!column) {
-        fail(QStringLiteral("Recorded slot %1 does not exist").arg(slot));
-        return false;
-    }
-    QVariantList values;
-    const QString where = whereClause(rows, &values);
-    return inTransaction([&] {
-        return execute(QStringLiteral("UPDATE Master SET %1 = Leitura").arg(*column) + where, values);
-    });
+    return fillSlot(slot, QStringLiteral("Leitura"), rows);
 }
 
 bool Database::clearRecordings(int slot, const QList<MasterKey> &rows)
+{
+    return fillSlot(slot, QStringLiteral("''"), rows);
+}
+
+bool Database::clearRecordings(int slot, const MasterFilter &rows)
+{
+    return fillSlot(slot, QStringLiteral("''"), rows);
+}
+
+bool Database::fillSlot(int slot, const QString &source, const QList<MasterKey> &rows)
 {
     const auto column = slotColumn(slot);
     if (!column) {
         fail(QStringLiteral("Recorded slot %1 does not exist").arg(slot));
         return false;
     }
+    const QString sql = QStringLiteral("UPDATE Master SET %1 = %2 WHERE Modelo = ? AND Malha = ?").arg(*column, source);
     return inTransaction([&] {
         for (const MasterKey &row : rows) {
-            if (!execute(QStringLiteral("UPDATE Master SET %1 = '' WHERE Modelo = ? AND Malha = ?").arg(*column),
-                         {row.modelo, row.malha}))
+            if (!execute(sql, {row.modelo, row.malha}))
                 return false;
         }
         return true;
     });
 }
 
-bool Database::clearRecordings(int slot, const MasterFilter &rows)
+bool Database::fillSlot(int slot, const QString &source, const MasterFilter &rows)
 {
     const auto column = slotColumn(slot);
     if (!column) {
@@ -195,7 +184,7 @@ bool Database::clearRecordings(int slot, const MasterFilter &rows)
     QVariantList values;
     const QString where = whereClause(rows, &values);
     return inTransaction([&] {
-        return execute(QStringLiteral("UPDATE Master SET %1 = ''").arg(*column) + where, values);
+        return execute(QStringLiteral("UPDATE Master SET %1 = %2").arg(*column, source) + where, values);
     });
 }
 

@@ -35,31 +35,15 @@ QList<RfRow> Database::rf(const QString &modelo, const QString &tipo)
 
 QStringList Database::i2cTexts(const QString &aparelho, const QString &text)
 {
-    QStringList texts;
     // Rows come in the order they were stored: the I2C screen lists devices in that order.
-    QSqlQuery query = prepare(QStringLiteral("SELECT i FROM i WHERE Aparelho = ? AND i LIKE ? ESCAPE '\\' "
-                                             "ORDER BY rowid"),
-                              {aparelho, QLatin1Char('%') + escapeLike(text) + QLatin1Char('%')});
-    query.setForwardOnly(true);
-    if (!exec(query))
-        return texts;
-    while (query.next())
-        texts.append(query.value(0).toString());
-    return texts;
+    return firstColumn(QStringLiteral("SELECT i FROM i WHERE Aparelho = ? AND i LIKE ? ESCAPE '\\' ORDER BY rowid"),
+                       {aparelho, QLatin1Char('%') + escapeLike(text) + QLatin1Char('%')});
 }
 
 QStringList Database::i2cTextsStartingWith(const QString &aparelho, const QString &prefix)
 {
-    QStringList texts;
-    QSqlQuery query = prepare(QStringLiteral("SELECT i FROM i WHERE Aparelho = ? AND i LIKE ? ESCAPE '\\' "
-                                             "ORDER BY rowid"),
-                              {aparelho, escapeLike(prefix) + QLatin1Char('%')});
-    query.setForwardOnly(true);
-    if (!exec(query))
-        return texts;
-    while (query.next())
-        texts.append(query.value(0).toString());
-    return texts;
+    return firstColumn(QStringLiteral("SELECT i FROM i WHERE Aparelho = ? AND i LIKE ? ESCAPE '\\' ORDER BY rowid"),
+                       {aparelho, escapeLike(prefix) + QLatin1Char('%')});
 }
 
 std::optional<QString> Database::modeloRef(const QString &modelNumber)
@@ -75,11 +59,7 @@ std::optional<QString> Database::modeloRef(const QString &modelNumber)
 
 std::optional<QString> Database::ultimoModelo()
 {
-    bool found = false;
-    const QString value = firstRowValue(QStringLiteral("SELECT Modelo FROM Ultimo ORDER BY rowid LIMIT 1"), &found);
-    if (!found)
-        return std::nullopt;
-    return value;
+    return firstRowText(QStringLiteral("SELECT Modelo FROM Ultimo ORDER BY rowid LIMIT 1"));
 }
 
 bool Database::setUltimoModelo(const QString &modelo)
@@ -94,12 +74,7 @@ std::optional<QString> Database::combo(int n)
         fail(QStringLiteral("Combo%1 does not exist").arg(n));
         return std::nullopt;
     }
-    bool found = false;
-    const QString value = firstRowValue(
-        QStringLiteral("SELECT %1 FROM Combos ORDER BY rowid LIMIT 1").arg(*column), &found);
-    if (!found)
-        return std::nullopt;
-    return value;
+    return firstRowText(QStringLiteral("SELECT %1 FROM Combos ORDER BY rowid LIMIT 1").arg(*column));
 }
 
 bool Database::setCombo(int n, const QString &value)
@@ -150,14 +125,13 @@ bool Database::setCombos(const QStringList &values)
 
 std::optional<quint8> Database::idioma()
 {
-    bool found = false;
-    const QString value = firstRowValue(QStringLiteral("SELECT Idioma FROM Tools ORDER BY rowid LIMIT 1"), &found);
-    if (!found)
+    const auto value = firstRowText(QStringLiteral("SELECT Idioma FROM Tools ORDER BY rowid LIMIT 1"));
+    if (!value)
         return std::nullopt;
     bool ok = false;
-    const uint number = value.trimmed().toUInt(&ok);
+    const uint number = value->trimmed().toUInt(&ok);
     if (!ok || number > 255) {
-        fail(QStringLiteral("Tools.Idioma is not a language number: \"%1\"").arg(value));
+        fail(QStringLiteral("Tools.Idioma is not a language number: \"%1\"").arg(*value));
         return std::nullopt;
     }
     return static_cast<quint8>(number);
@@ -170,11 +144,7 @@ bool Database::setIdioma(quint8 idioma)
 
 std::optional<QString> Database::syncbd()
 {
-    bool found = false;
-    const QString value = firstRowValue(QStringLiteral("SELECT syncbd FROM Tools ORDER BY rowid LIMIT 1"), &found);
-    if (!found)
-        return std::nullopt;
-    return value;
+    return firstRowText(QStringLiteral("SELECT syncbd FROM Tools ORDER BY rowid LIMIT 1"));
 }
 
 bool Database::setSyncbd(const QString &state)

@@ -124,19 +124,24 @@ class TestConnection : public QObject
 
     static QByteArray modelAnswer(const QByteArray &number) { return number + '\n' + Prompt; }
 
-private slots:
-    void timersStartStopped()
+    // Back at rest: nothing open, every caption and the light as before a connect.
+    static void expectDisconnected(Rig &rig)
     {
-        Rig rig;
-        QVERIFY(!rig.controller.timerValidaPorta().isActive());
-        QVERIFY(!rig.controller.timerVerificaVersao().isActive());
-        QCOMPARE(rig.controller.timerValidaPorta().interval(), 300);
-        QCOMPARE(rig.controller.timerVerificaVersao().interval(), 50);
+        QVERIFY(!rig.port.isOpen());
+        QCOMPARE(rig.session.connectionFlag(), QStringLiteral("0"));
+        QCOMPARE(rig.label, QStringLiteral("Desconectado"));
+        QCOMPARE(rig.button, QStringLiteral("Conectar"));
+        QCOMPARE(rig.light, QStringLiteral("Branco"));
+        QVERIFY(rig.idle());
     }
 
+private slots:
     void connectOpensAndAsksForTheModel()
     {
         Rig rig;
+        QVERIFY(rig.idle());
+        QCOMPARE(rig.controller.timerValidaPorta().interval(), 300);
+        QCOMPARE(rig.controller.timerVerificaVersao().interval(), 50);
         rig.connectTo();
         QVERIFY(rig.port.isOpen());
         QCOMPARE(rig.port.openedName, QStringLiteral("/dev/fake3"));
@@ -243,12 +248,7 @@ private slots:
 
         rig.controller.onTimerValidaPorta();
         QCOMPARE(rig.messages, (QStringList{"MSG_PORTA_NAO_RESPONDE|5", "MSG_PORTA|5"}));
-        QVERIFY(!rig.controller.timerValidaPorta().isActive());
-        QVERIFY(!rig.port.isOpen());
-        QCOMPARE(rig.session.connectionFlag(), QStringLiteral("0"));
-        QCOMPARE(rig.label, QStringLiteral("Desconectado"));
-        QCOMPARE(rig.button, QStringLiteral("Conectar"));
-        QCOMPARE(rig.light, QStringLiteral("Branco"));
+        expectDisconnected(rig);
         QCOMPARE(rig.refills, 1);
         QCOMPARE(rig.controller.validationCount(), 0);
         QVERIFY(rig.exchange.commandField().isEmpty());
@@ -321,67 +321,65 @@ private slots:
         QCOMPARE(rig.recognised, QStringList{QStringLiteral("IP X")});
     }
 
-    void connectIgnoredWhileBusy_data()
+    // Clicks that never reach the device: busy, a port number the rule forbids, an open error.
+    void connectRefused_data()
     {
         QTest::addColumn<QString>("flag");
-        QTest::newRow("connecting") << "2";
-        QTest::newRow("exchange running") << "3";
-    }
-    void connectIgnoredWhileBusy()
-    {
-        QFETCH(QString, flag);
-        Rig rig;
-        rig.session.setConnectionFlag(flag);
-        rig.label.clear();
-        rig.connectTo(QStringLiteral("99"));
-        QVERIFY(!rig.port.isOpen());
-        QVERIFY(rig.messages.isEmpty());
-        QVERIFY(rig.button.isEmpty());
-        QCOMPARE(rig.session.connectionFlag(), flag);
-    }
-
-    void comNumberRule_data()
-    {
         QTest::addColumn<bool>("rule");
         QTest::addColumn<QString>("number");
-        QTest::addColumn<bool>("opens");
-        QTest::newRow("COM16") << true << "16" << true;
-        QTest::newRow("COM17") << true << "17" << false;
-        QTest::newRow("device names have no such rule") << false << "17" << true;
+        QTest::addColumn<int>("error");
+        QTest::addColumn<QStringList>("messages");
+        const int none = int(SerialPort::NoError);
+        // The busy rows keep their flag; the others stay at "0".
+        QTest::newRow("connecting") << "2" << true << "9" << none << QStringList{};
+        QTest::newRow("exchange running") << "3" << true << "9" << none << QStringList{};
+        QTest::newRow("COM17") << "0" << true << "17" << none << QStringList{"MSG_16|17"};
+        QTest::newRow("8005 in use") << "0" << true << "4" << int(SerialPort::PortAlreadyOpen)
+                                     << QStringList{"MSG_PORTA_EM_USO|4"};
+        QTest::newRow("8002 invalid") << "0" << true << "4" << int(SerialPort::InvalidPort)
+                                      << QStringList{"MSG_PORTA_INVALIDA|4"};
+        QTest::newRow("8012 not open") << "0" << true << "4" << int(SerialPort::PortNotOpen)
+                                       << QStringList{"MSG_PORTA_INVALIDA|4"};
     }
-    void comNumberRule()
+    void connectRefused()
     {
+        QFETCH(QString, flag);
         QFETCH(bool, rule);
         QFETCH(QString, number);
-        QFETCH(bool, opens);
+        QFETCH(int, error);
+        QFETCH(QStringList, messages);
         Rig rig;
+        rig.session.setConnectionFlag(flag);
         rig.controller.setComNumberRule(rule);
+        rig.port.openError = error;
         rig.connectTo(number);
-        QCOMPARE(rig.port.isOpen(), opens);
-        QCOMPARE(rig.messages, opens ? QStringList{} : QStringList{"MSG_16|" + number});
-        QCOMPARE(rig.session.connectionFlag(), opens ? QStringLiteral("2") : QStringLiteral("0"));
+        QVERIFY(!rig.port.isOpen());
+        QVERIFY(rig.port.written.isEmpty());
+        QCOMPARE(rig.messages, messages);
+        QCOMPARE(rig.session.connectionFlag(), flag);
+        if (flag != QLatin1String("0"))
+            QVERIFY(rig.button.isEmpty()); // nothing redrawn either
+        if (error != int(SerialPort::NoError)) {
+            QCOMPARE(rig.refills, 1);
+            QVERIFY(rig.idle());
+        }
     }
 
-    void openFailures_data()
+    // Only a COM number above 16 is refused; a device name is never.
+    void comNumberRuleAllows_data()
     {
-        QTest::addColumn<int>("error");
-        QTest::addColumn<QString>("key");
-        QTest::newRow("8005 in use") << int(SerialPort::PortAlreadyOpen) << "MSG_PORTA_EM_USO";
-        QTest::newRow("8002 invalid") << int(SerialPort::InvalidPort) << "MSG_PORTA_INVALIDA";
-        QTest::newRow("8012 not open") << int(SerialPort::PortNotOpen) << "MSG_PORTA_INVALIDA";
+        QTest::addColumn<bool>("rule");
+        QTest::newRow("COM16") << true;
+        QTest::newRow("device names have no such rule") << false;
     }
-    void openFailures()
+    void comNumberRuleAllows()
     {
-        QFETCH(int, error);
-        QFETCH(QString, key);
+        QFETCH(bool, rule);
         Rig rig;
-        rig.port.openError = error;
-        rig.connectTo(QStringLiteral("4"));
-        QCOMPARE(rig.messages, QStringList{key + "|4"});
-        QCOMPARE(rig.refills, 1);
-        QVERIFY(rig.port.written.isEmpty());
-        QCOMPARE(rig.session.connectionFlag(), QStringLiteral("0"));
-        QVERIFY(rig.idle());
+        rig.controller.setComNumberRule(rule);
+        rig.connectTo(rule ? QStringLiteral("16") : QStringLiteral("17"));
+        QVERIFY(rig.port.isOpen());
+        QCOMPARE(rig.session.connectionFlag(), QStringLiteral("2"));
     }
 
     void disconnectClick()
@@ -392,13 +390,8 @@ private slots:
         rig.clock.advance(5000);
         QCOMPARE(rig.controller.modelNumber(), QStringLiteral("A1778"));
         rig.connectTo();
-        QVERIFY(!rig.port.isOpen());
-        QCOMPARE(rig.session.connectionFlag(), QStringLiteral("0"));
-        QCOMPARE(rig.label, QStringLiteral("Desconectado"));
-        QCOMPARE(rig.button, QStringLiteral("Conectar"));
-        QCOMPARE(rig.light, QStringLiteral("Branco"));
+        expectDisconnected(rig);
         QVERIFY(rig.controller.modelNumber().isEmpty());
-        QVERIFY(rig.idle());
     }
 
     // The cable is pulled while the first answer arrives, or later while idle: the connection
@@ -426,11 +419,7 @@ private slots:
         QCOMPARE(finished.count(), 1);
         if (midAnswer)
             QCOMPARE(finished[0][0].toString(), QStringLiteral("\r\nsyscfg print RMd#\r\r\nA17"));
-        QVERIFY(rig.idle());
-        QCOMPARE(rig.session.connectionFlag(), QStringLiteral("0"));
-        QCOMPARE(rig.label, QStringLiteral("Desconectado"));
-        QCOMPARE(rig.light, QStringLiteral("Branco"));
-        QCOMPARE(rig.button, QStringLiteral("Conectar"));
+        expectDisconnected(rig);
         QCOMPARE(rig.refills, 1);
         rig.clock.advance(5000);
         QVERIFY(rig.messages.isEmpty());

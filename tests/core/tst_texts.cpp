@@ -215,24 +215,20 @@ private slots:
             QVERIFY2(problems[i].contains(expected[i]), qPrintable(problems[i]));
     }
 
-    void requiredKeyPresent_data()
+    void requiredKeysPresent()
     {
-        QTest::addColumn<QString>("key");
+        const QStringList dictionary = Texts::dictionaryKeys();
         for (const char *k : kScreenKeys)
-            QTest::newRow(k) << u8(k);
+            QVERIFY2(dictionary.contains(u8(k)), k);
         for (const char *k : kProgramKeys)
-            QTest::newRow(k) << u8(k);
-    }
-    void requiredKeyPresent()
-    {
-        QFETCH(QString, key);
-        QVERIFY2(Texts::dictionaryKeys().contains(key), qPrintable(QStringLiteral("missing key \"%1\"").arg(key)));
-    }
-
-    void screenKeyCount()
-    {
-        QCOMPARE(int(std::size(kScreenKeys)), 138);
-        QCOMPARE(QSet<QString>(std::begin(kScreenKeys), std::end(kScreenKeys)).size(), 138);
+            QVERIFY2(dictionary.contains(u8(k)), k);
+        // Every raised message exists, and only the missing database stops the program.
+        for (const char *k : kMessageKeys) {
+            const auto m = Texts::Mensagem(u8(k), 2);
+            QVERIFY2(m, k);
+            const auto icon = qstrcmp(k, "MSG_CONFIG_AUSENTE") == 0 ? Texts::Icon::Critical : Texts::Icon::Information;
+            QVERIFY2(m->icon == icon, k);
+        }
     }
 
     void dictionaryRowComplete_data()
@@ -243,8 +239,11 @@ private slots:
     }
     void dictionaryRowComplete()
     {
+        static const QSet<QString> symbolic(std::begin(kSymbolicKeys), std::end(kSymbolicKeys));
         QFETCH(QString, key);
         const QString pt = Texts::Traduz(key, 1);
+        if (!symbolic.contains(key))
+            QCOMPARE(pt, key);
         for (quint8 idioma = 1; idioma <= 3; ++idioma) {
             const QString text = Texts::Traduz(key, idioma);
             QVERIFY2(!text.trimmed().isEmpty(), languageName(idioma));
@@ -252,20 +251,6 @@ private slots:
             QCOMPARE(text.endsWith(u' '), pt.endsWith(u' '));
             QVERIFY2(!text.startsWith(u' '), languageName(idioma));
         }
-    }
-
-    void portugueseIsTheKey_data()
-    {
-        QTest::addColumn<QString>("key");
-        const QSet<QString> symbolic(std::begin(kSymbolicKeys), std::end(kSymbolicKeys));
-        for (const QString &k : Texts::dictionaryKeys())
-            if (!symbolic.contains(k))
-                QTest::newRow(qPrintable(k)) << k;
-    }
-    void portugueseIsTheKey()
-    {
-        QFETCH(QString, key);
-        QCOMPARE(Texts::Traduz(key, 1), key);
     }
 
     void quotedText_data()
@@ -288,39 +273,46 @@ private slots:
     {
         QTest::addColumn<QString>("key");
         QTest::addColumn<quint8>("idioma");
+        QTest::addColumn<bool>("message"); // Mensagem rather than Traduz
         for (quint8 idioma = 1; idioma <= 3; ++idioma) {
             const char *lang = languageName(idioma);
-            QTest::addRow("not a key %s", lang) << QStringLiteral("Texto que não existe") << idioma;
-            QTest::addRow("blank dropped %s", lang) << QStringLiteral("Deseja excluir o comando") << idioma;
-            QTest::addRow("other case %s", lang) << QStringLiteral("conectar") << idioma;
-            QTest::addRow("empty key %s", lang) << QString() << idioma;
+            QTest::addRow("not a key %s", lang) << QStringLiteral("Texto que não existe") << idioma << false;
+            QTest::addRow("blank dropped %s", lang) << QStringLiteral("Deseja excluir o comando") << idioma << false;
+            QTest::addRow("other case %s", lang) << QStringLiteral("conectar") << idioma << false;
+            QTest::addRow("empty key %s", lang) << QString() << idioma << false;
         }
-        QTest::addRow("language 0") << QStringLiteral("Conectar") << quint8(0);
-        QTest::addRow("language 4") << QStringLiteral("Conectar") << quint8(4);
-        QTest::addRow("language 255") << QStringLiteral("TensoesRF") << quint8(255);
+        QTest::addRow("language 0") << QStringLiteral("Conectar") << quint8(0) << false;
+        QTest::addRow("language 4") << QStringLiteral("Conectar") << quint8(4) << false;
+        QTest::addRow("language 255") << QStringLiteral("TensoesRF") << quint8(255) << false;
+        QTest::newRow("unknown message") << QStringLiteral("MSG_NAO_EXISTE") << quint8(1) << true;
+        QTest::newRow("dictionary key as message") << QStringLiteral("Conectar") << quint8(2) << true;
+        QTest::newRow("title key as message") << QStringLiteral("MSG_UPDATE_OBRIGATORIA_TITULO") << quint8(1) << true;
+        QTest::newRow("message in other case") << QStringLiteral("msg_16") << quint8(1) << true;
+        QTest::newRow("message language 0") << QStringLiteral("MSG_16") << quint8(0) << true;
+        QTest::newRow("message language 4") << QStringLiteral("MSG_16") << quint8(4) << true;
     }
     void unknownGivesNothing()
     {
         QFETCH(QString, key);
         QFETCH(quint8, idioma);
-        QCOMPARE(Texts::Traduz(key, idioma), QString());
+        QFETCH(bool, message);
+        if (message)
+            QVERIFY(!Texts::Mensagem(key, idioma, QStringLiteral("3")).has_value());
+        else
+            QCOMPARE(Texts::Traduz(key, idioma), QString());
     }
 
-    void cancelledAutoTestCaption_data()
-    {
-        QTest::addColumn<quint8>("idioma");
-        for (quint8 idioma = 1; idioma <= 3; ++idioma)
-            QTest::newRow(languageName(idioma)) << idioma;
-    }
     void cancelledAutoTestCaption()
     {
         // The I2C run tells "running" from "at rest" by the caption's first letter "C", and
         // rebuilds the resting caption from two pieces after a cancel.
-        QFETCH(quint8, idioma);
-        QVERIFY(Texts::Traduz(QStringLiteral("Cancelar"), idioma).startsWith(u'C'));
-        const QString rest = Texts::Traduz(QStringLiteral("Auto Teste"), idioma);
-        QVERIFY(!rest.startsWith(u'C'));
-        QCOMPARE(Texts::Traduz(QStringLiteral("Auto "), idioma) + Texts::Traduz(QStringLiteral("Teste"), idioma), rest);
+        for (quint8 idioma = 1; idioma <= 3; ++idioma) {
+            QVERIFY(Texts::Traduz(QStringLiteral("Cancelar"), idioma).startsWith(u'C'));
+            const QString rest = Texts::Traduz(QStringLiteral("Auto Teste"), idioma);
+            QVERIFY(!rest.startsWith(u'C'));
+            QCOMPARE(Texts::Traduz(QStringLiteral("Auto "), idioma) + Texts::Traduz(QStringLiteral("Teste"), idioma),
+                     rest);
+        }
     }
 
     void messageRowComplete_data()
@@ -350,18 +342,6 @@ private slots:
         }
     }
 
-    void requiredMessagePresent_data()
-    {
-        QTest::addColumn<QString>("key");
-        for (const char *k : kMessageKeys)
-            QTest::newRow(k) << u8(k);
-    }
-    void requiredMessagePresent()
-    {
-        QFETCH(QString, key);
-        QVERIFY2(Texts::messageKeys().contains(key), qPrintable(key));
-    }
-
     void quotedMessage_data()
     {
         QTest::addColumn<QString>("key");
@@ -389,52 +369,16 @@ private slots:
             QCOMPARE(m->text, text);
     }
 
-    void messageIcons()
-    {
-        for (const char *k : kMessageKeys) {
-            const auto m = Texts::Mensagem(u8(k), 2);
-            QVERIFY2(m, k);
-            const auto expected = qstrcmp(k, "MSG_CONFIG_AUSENTE") == 0 ? Texts::Icon::Critical : Texts::Icon::Information;
-            QVERIFY2(m->icon == expected, k);
-        }
-    }
-
-    void portFilledInEveryLanguage_data()
-    {
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<quint8>("idioma");
-        for (const char *k : {"MSG_PORTA_EM_USO", "MSG_PORTA_INVALIDA"})
-            for (quint8 idioma = 1; idioma <= 3; ++idioma)
-                QTest::addRow("%s %s", k, languageName(idioma)) << u8(k) << idioma;
-    }
     void portFilledInEveryLanguage()
     {
-        QFETCH(QString, key);
-        QFETCH(quint8, idioma);
-        const auto m = Texts::Mensagem(key, idioma, QStringLiteral("12"));
-        QVERIFY(m);
-        QCOMPARE(m->text.count(QStringLiteral("COM 12 ")), 1);
-        const auto empty = Texts::Mensagem(key, idioma);
-        QVERIFY(empty);
-        QVERIFY(empty->text.contains(QStringLiteral("COM  ")));
-    }
-
-    void unknownMessageGivesNothing_data()
-    {
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<quint8>("idioma");
-        QTest::newRow("unknown key") << QStringLiteral("MSG_NAO_EXISTE") << quint8(1);
-        QTest::newRow("dictionary key") << QStringLiteral("Conectar") << quint8(2);
-        QTest::newRow("title key") << QStringLiteral("MSG_UPDATE_OBRIGATORIA_TITULO") << quint8(1);
-        QTest::newRow("other case") << QStringLiteral("msg_16") << quint8(1);
-        QTest::newRow("language 0") << QStringLiteral("MSG_16") << quint8(0);
-        QTest::newRow("language 4") << QStringLiteral("MSG_16") << quint8(4);
-    }
-    void unknownMessageGivesNothing()
-    {
-        QFETCH(QString, key);
-        QFETCH(quint8, idioma);
-        QVERIFY(!Texts::Mensagem(key, idioma, QStringLiteral("3")).has_value());
+        for (const char *k : {"MSG_PORTA_EM_USO", "MSG_PORTA_INVALIDA"}) {
+            for (quint8 idioma = 1; idioma <= 3; ++idioma) {
+                const auto m = Texts::Mensagem(u8(k), idioma, QStringLiteral("12"));
+                QVERIFY2(m && m->text.count(QStringLiteral("COM 12 ")) == 1, k);
+                const auto empty = Texts::Mensagem(u8(k), idioma);
+                QVERIFY2(empty && empty->text.contains(QStringLiteral("COM  ")), k);
+            }
+        }
     }
 };
 
