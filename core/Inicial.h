@@ -36,6 +36,7 @@ public:
     // Shows the single instance of a registered screen, creating it when it is not open.
     QWidget *openScreen(const QString &name);
     QWidget *screen(const QString &name) const;
+    bool hasScreen(const QString &name) const { return m_screens.contains(name); }
     // Shows a window that a screen opens of its own (help, administration) inside the frame.
     void showChildWindow(QWidget *window);
     void closeTestScreens();

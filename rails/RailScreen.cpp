@@ -142,14 +142,15 @@ void RailScreen::retranslate()
     }
 }
 
-void RailScreen::setScreenOpener(std::function<void(const QString &)> opener)
+void RailScreen::setScreenOpener(std::function<void(const QString &)> opener,
+                                  const std::function<bool(const QString &)> &available)
 {
     m_opener = std::move(opener);
-    const bool show = bool(m_opener);
     const QList<QPair<QPushButton *, QString>> buttons = {
         {ui->Botao1, QStringLiteral("VCores")}, {ui->Botao2, QStringLiteral("BuckTeste")}, {ui->Botao3, QStringLiteral("Nand")}};
     for (const auto &[button, screen] : buttons) {
-        button->setVisible(show);
+        // A screen that is not part of the program gets no button: nothing that does nothing.
+        button->setVisible(m_opener && (!available || available(screen)));
         disconnect(button, &QPushButton::clicked, nullptr, nullptr);
         connect(button, &QPushButton::clicked, this, [this, screen] {
             if (m_opener)

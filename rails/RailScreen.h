@@ -74,7 +74,9 @@ public:
     RailSettings settings() const;
 
     // Opens another screen by its name ("VCores", "BuckTeste", "Nand"); Botao1..3 on Buck/LDO.
-    void setScreenOpener(std::function<void(const QString &screen)> opener);
+    // Only the screens `available` accepts get their button.
+    void setScreenOpener(std::function<void(const QString &screen)> opener,
+                         const std::function<bool(const QString &screen)> &available = {});
 
 private:
     MasterFilter gridFilter() const;

@@ -1,0 +1,46 @@
+#include "Screens.h"
+
+#include "BuckLdo.h"
+#include "BuckTeste.h"
+#include "Inicial.h"
+#include "Master.h"
+#include "Session.h"
+#include "VCores.h"
+#include "xIdioma.h"
+
+namespace Screens {
+
+void registerAll(Inicial &inicial, Shell &shell)
+{
+    // A screen that opens another goes through the main window, so each stays one instance.
+    const auto opener = [&inicial](const QString &name) { inicial.openScreen(name); };
+    inicial.registerScreen(2, QStringLiteral("Master"), QStringLiteral("Modo Comandos e Comparador"),
+                           [&inicial, &shell](const ScreenContext &ctx) -> QWidget * {
+                               return new Master(ctx, shell, [&inicial](QWidget *w) { inicial.showChildWindow(w); });
+                           });
+    inicial.registerScreen(3, QStringLiteral("VCores"), QStringLiteral("VCore"),
+                           [](const ScreenContext &ctx) -> QWidget * { return new VCores(ctx); });
+    inicial.registerScreen(4, QStringLiteral("BuckLdo"), QStringLiteral("Buck / Ldo"),
+                           [opener, &inicial](const ScreenContext &ctx) -> QWidget * {
+                               auto *screen = new BuckLdo(ctx);
+                               screen->setScreenOpener(opener, [&inicial](const QString &name) {
+                                   return inicial.hasScreen(name);
+                               });
+                               return screen;
+                           });
+    inicial.registerScreen(10, QStringLiteral("xIdioma"), QStringLiteral("Idioma / Language"),
+                           [&inicial](const ScreenContext &ctx) -> QWidget * {
+                               return new xIdioma(ctx.session, ctx.dialogs, [&inicial] { inicial.closeTestScreens(); });
+                           },
+                           false);
+    inicial.registerScreen(13, QStringLiteral("BuckTeste"), QStringLiteral("Buck Teste"),
+                           [](const ScreenContext &ctx) -> QWidget * { return new BuckTeste(ctx); });
+}
+
+QStringList names()
+{
+    return {QStringLiteral("Master"), QStringLiteral("VCores"), QStringLiteral("BuckLdo"), QStringLiteral("xIdioma"),
+            QStringLiteral("BuckTeste")};
+}
+
+} // namespace Screens
