@@ -151,7 +151,8 @@ void RailScreen::setScreenOpener(std::function<void(const QString &)> opener)
     for (const auto &[button, screen] : buttons) {
         button->setVisible(show);
         disconnect(button, &QPushButton::clicked, nullptr, nullptr);
-        connect(button, &QPushButton::clicked, this, [this, screen] {
+        // A copy: clang 14 cannot capture a structured binding.
+        connect(button, &QPushButton::clicked, this, [this, screen = screen] {
             if (m_opener)
                 m_opener(screen);
         });
