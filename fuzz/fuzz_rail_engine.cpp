@@ -3,6 +3,7 @@
 // one reading per labelled row, each with a text, and a verdict that can always be given.
 
 #include "FuzzInput.h"
+#include "NumberRoutines.h"
 #include "RailEngine.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
@@ -43,6 +44,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
             FUZZ_CHECK(r.leitura.endsWith(QLatin1String(" V")));
         if (r.unit == RailUnit::Milliamps)
             FUZZ_CHECK(r.leitura.endsWith(QLatin1String(" mA")));
+        // A deviation shown beside a reading is one the verdict can read back.
+        if (!r.porc.isEmpty()) {
+            FUZZ_CHECK(r.porc.endsWith(QLatin1String(" %")));
+            FUZZ_CHECK(porcentagemValor(r.porc.chopped(2)).has_value());
+        }
         const RailVerdict v = RailEngine::verdict(r, row.refv, RailEngine::DefaultTolerancePercent);
         if (row.refv.isEmpty())
             FUZZ_CHECK(v == RailVerdict::None);
