@@ -83,6 +83,8 @@ std::optional<QString> CalculaPorcentagem(const QString &leitura, const QString 
     if (*f == 0)
         return std::nullopt; // the division fails; callers keep their previous text
     const double p = d / (*f * 100) * 10000;
+    if (!std::isfinite(p))
+        return std::nullopt; // a garbled reading of hundreds of digits: no deviation to show
     QString s = numberWithComma(p).left(6);
     const qsizetype comma = s.indexOf(u',');
     if (comma >= 0)

@@ -152,7 +152,8 @@ void RailScreen::setScreenOpener(std::function<void(const QString &)> opener,
         // A screen that is not part of the program gets no button: nothing that does nothing.
         button->setVisible(m_opener && (!available || available(screen)));
         disconnect(button, &QPushButton::clicked, nullptr, nullptr);
-        connect(button, &QPushButton::clicked, this, [this, screen] {
+        // A copy: clang 14 cannot capture a structured binding.
+        connect(button, &QPushButton::clicked, this, [this, screen = screen] {
             if (m_opener)
                 m_opener(screen);
         });

@@ -110,6 +110,10 @@ private slots:
         QTest::newRow("empty reading") << "" << "0.850";
         QTest::newRow("text reading") << "Sem Medição*" << "0.850";
         QTest::newRow("empty reference") << "0.850" << "";
+        // Both numbers fit a double, the deviation does not.
+        QTest::newRow("deviation beyond a double") << QString(u'1' + QString(308, u'0')) << "0.001";
+        QTest::newRow("difference beyond a double") << QString(u'1' + QString(308, u'0'))
+                                                     << QString(QStringLiteral("-1") + QString(308, u'0'));
     }
     void calculaPorcentagemFailures()
     {

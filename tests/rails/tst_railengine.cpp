@@ -61,6 +61,10 @@ private slots:
         QTest::newRow("not a number") << "PP_CPU 8x0 mV\r\r\n" << "0.850" << 3 << 1 << none << "0 %" << false;
         QTest::newRow("empty value") << "PP_CPU  mV\r\r\n" << "0.850" << 3 << 1 << none << "0 %" << false;
         QTest::newRow("single digit current") << "PP_CPU 5 mA\r\r\n" << "" << 3 << 1 << none << "" << false;
+        // A garbled line of hundreds of digits against a tiny reference: no "inf %" beside it.
+        QTest::newRow("reading of hundreds of digits")
+            << QString(QStringLiteral("PP_CPU 1") + QString(308, u'0') + QStringLiteral(" mV\r\r\n")) << "0.001" << 3
+            << 1 << "10000 V" << "" << true;
     }
 
     void readRail()
