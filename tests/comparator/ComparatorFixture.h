@@ -5,7 +5,7 @@
 
 #include "Database.h"
 #include "DatabaseBuilder.h"
-#include "Shell.h"
+#include "FakeShell.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -15,16 +15,6 @@
 #include <QTemporaryDir>
 #include <unistd.h>
 
-class FakeShell : public Shell
-{
-public:
-    QStringList opened;
-    bool open(const QString &pathOrUrl) override
-    {
-        opened << pathOrUrl;
-        return true;
-    }
-};
 
 namespace fixture {
 

@@ -17,18 +17,10 @@
 #include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
+#include "FakeShell.h"
+
 #include <QTemporaryDir>
 #include <QtTest>
-
-namespace {
-
-class NoShell : public Shell
-{
-public:
-    bool open(const QString &) override { return false; }
-};
-
-} // namespace
 
 class TestConsoleSim : public QObject
 {
@@ -73,7 +65,7 @@ private slots:
         Session session(path);
         session.setModelo(QStringLiteral("IP 6"));
         FakeDialogs dialogs;
-        NoShell shell;
+        FakeShell shell;
         QtSerialPortLink port;
         ConsoleExchange exchange(session, port);
         ConnectionController connection(session, exchange, port);
