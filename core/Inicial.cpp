@@ -210,23 +210,11 @@ void Inicial::Traducao_Form_Inicial()
     paintConnectionState();
 }
 
-QString Inicial::connectionWord() const
-{
-    const QString flag = m_context.session.connectionFlag();
-    if (flag == QLatin1String("2"))
-        return QStringLiteral("Conectando");
-    if (flag == QLatin1String("3"))
-        return QStringLiteral("Comunicando");
-    if (flag == QLatin1String("1"))
-        return QStringLiteral("Conectado");
-    return QStringLiteral("Desconectado");
-}
-
 void Inicial::paintConnectionState()
 {
     const Session &s = m_context.session;
     const QString flag = s.connectionFlag();
-    ui->lbConexao->setText(s.Traduz(connectionWord()));
+    ui->lbConexao->setText(s.Traduz(ConnectionController::labelKey(flag)));
     const QString button = flag == QLatin1String("0") ? QStringLiteral("Conectar")
                            : flag == QLatin1String("2") ? QStringLiteral("Conectando")
                                                         : QStringLiteral("Desconectar");

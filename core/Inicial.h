@@ -69,7 +69,6 @@ private:
     void wireConnection();
     void selectModel(const QString &modelo);
     void paintConnectionState();
-    QString connectionWord() const;
 
     Ui::Inicial *ui;
     ScreenContext m_context;

@@ -3,9 +3,13 @@
 // folder, a shell that records what it would open, and a console answer framed the way the
 // exchange hands it over.
 
+#include "ConsoleExchange.h"
 #include "Database.h"
 #include "DatabaseBuilder.h"
+#include "FakeDialogs.h"
+#include "FakeSerialPort.h"
 #include "FakeShell.h"
+#include "Session.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -29,6 +33,17 @@ inline QString makeDatabase(const QTemporaryDir &dir)
     }
     return path;
 }
+
+// One screen's surroundings on a fresh file: session, scripted line, exchange and boxes.
+struct ScreenRig
+{
+    QTemporaryDir dir;
+    QString path = makeDatabase(dir);
+    Session session{path};
+    FakeSerialPort port;
+    ConsoleExchange exchange{session, port};
+    FakeDialogs dialogs;
+};
 
 // CR LF, the echoed command, CR CR LF, the lines each ending CR LF, and the prompt.
 inline QString consoleAnswer(const QString &command, const QStringList &lines,

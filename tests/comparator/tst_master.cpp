@@ -24,14 +24,8 @@ const QString Command = QStringLiteral("nand --getinfo");
 const QStringList Lines{QStringLiteral("Vendor: TOSHIBA"), QStringLiteral("Size: 64GB")};
 
 // One console on one file: session, scripted line, exchange, boxes and the screen.
-struct Rig
+struct Rig : fixture::ScreenRig
 {
-    QTemporaryDir dir;
-    QString path = fixture::makeDatabase(dir);
-    Session session{path};
-    FakeSerialPort port;
-    ConsoleExchange exchange{session, port};
-    FakeDialogs dialogs;
     FakeShell shell;
     QList<QWidget *> shownWindows;
     std::unique_ptr<Master> screen;

@@ -20,14 +20,8 @@ const QString Command = QStringLiteral("nanduid");
 const QString Left = fixture::consoleAnswer(Command, {QStringLiteral("UID: 0B78BF7A")});
 const QString Right = fixture::consoleAnswer(Command, {QStringLiteral("UID: 77AA0011")});
 
-struct Rig
+struct Rig : fixture::ScreenRig
 {
-    QTemporaryDir dir;
-    QString path = fixture::makeDatabase(dir);
-    Session session{path};
-    FakeSerialPort port;
-    ConsoleExchange exchange{session, port};
-    FakeDialogs dialogs;
     std::unique_ptr<zAjustes> screen;
 
     explicit Rig(const QStringList &masks = {})
