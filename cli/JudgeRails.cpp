@@ -14,16 +14,6 @@ namespace {
 const QStringList Engines = {QStringLiteral("vcore"), QStringLiteral("buckldo"), QStringLiteral("buck-read"),
                              QStringLiteral("buck-check")};
 
-QString verdictText(RailVerdict v)
-{
-    switch (v) {
-    case RailVerdict::Pass: return QStringLiteral("pass");
-    case RailVerdict::Fail: return QStringLiteral("fail");
-    case RailVerdict::None: break;
-    }
-    return QStringLiteral("none");
-}
-
 QJsonObject row(const QString &name, const QJsonValue &label, const QString &caption, const QJsonValue &deviation,
                 const QString &verdict)
 {

@@ -3,6 +3,8 @@
 // a model. It holds no widgets and touches no database: the rail screens and the command line
 // hand it the answer and the reference rows, then paint, print or store what it returns.
 
+#include "Verdict.h"
+
 #include <QList>
 #include <QString>
 #include <optional>
@@ -35,8 +37,7 @@ struct RailSettings
     QString noReading = QStringLiteral("Sem Medição*"); // translated "Sem Medição" + "*"
 };
 
-// How the command line and the tests judge a reading; the screens show the texts only.
-enum class RailVerdict { Pass, Fail, None };
+using RailVerdict = Verdict;
 
 class RailEngine
 {
