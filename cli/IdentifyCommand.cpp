@@ -4,16 +4,11 @@
 #include "CliOutput.h"
 #include "Database.h"
 
-#include "ConnectionController.h"
-#include "ConsoleExchange.h"
+#include "LiveExchange.h"
 #include "PortList.h"
-#include "QtSerialPort.h"
-#include "Session.h"
 #include "Texts.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
-#include <QTimer>
 
 namespace Cli {
 
@@ -53,54 +48,24 @@ int identify(const QStringList &args)
     if (!QFileInfo(dbPath).isFile())
         err(QStringLiteral("database %1 not found; the model cannot be looked up").arg(dbPath));
 
-    Session session(dbPath);
-    session.setIdioma(English);
-    QtSerialPortLink port;
-    ConsoleExchange exchange(session, port);
-    ConnectionController controller(session, exchange, port);
-    controller.setModelLookup([dbPath](const QString &number) { return Database(dbPath).modeloRef(number); });
-
-    bool recognised = false;
+    LiveExchange live(dbPath);
+    live.session().setIdioma(English);
     bool anyMessage = false;
-    bool lost = false;
-    QObject::connect(&port, &SerialPort::lost, &controller, [&] { lost = true; });
-    QObject::connect(&controller, &ConnectionController::message, &controller,
-                     [&](const QString &key, const QString &porta) {
-                         anyMessage = true;
-                         printMessage(key, porta);
-                     });
-    QObject::connect(&controller, &ConnectionController::modelNumberChanged, &controller,
-                     [](const QString &number) {
-                         if (!number.isEmpty() && number != QLatin1String("..."))
-                             out(QStringLiteral("Model number: ") + number);
-                     });
-    QObject::connect(&controller, &ConnectionController::modelRecognised, &controller,
-                     [&](const QString &model) {
-                         recognised = true;
-                         out(model);
-                         QCoreApplication::exit(0);
-                     });
-
-    // Connecting is finished when nothing runs any more: the exchange, the validation and
-    // the re-identification are all idle.
-    QTimer watch;
-    watch.setInterval(100);
-    QObject::connect(&watch, &QTimer::timeout, &controller, [&] {
-        if (recognised || exchange.running() || controller.timerValidaPorta().isActive()
-            || controller.timerVerificaVersao().isActive())
-            return;
-        if (lost)
-            err(QStringLiteral("the device on %1 vanished").arg(portName));
-        if (!anyMessage)
-            printMessage(QStringLiteral("MSG_SELECIONE_MODELO"), PortList::numberTextFor(portName));
-        QCoreApplication::exit(1);
+    const std::optional<QString> model = live.recogniseModel(portName, [&](const QString &key, const QString &porta) {
+        anyMessage = true;
+        printMessage(key, porta);
     });
-
-    controller.connectClicked(portName, PortList::numberTextFor(portName));
-    watch.start();
-    const int code = QCoreApplication::exec();
-    port.close();
-    return code;
+    if (!live.modelNumber().isEmpty())
+        out(QStringLiteral("Model number: ") + live.modelNumber());
+    if (model) {
+        out(*model);
+        return 0;
+    }
+    if (live.lost())
+        err(QStringLiteral("the device on %1 vanished").arg(portName));
+    if (!anyMessage)
+        printMessage(QStringLiteral("MSG_SELECIONE_MODELO"), PortList::numberTextFor(portName));
+    return 1;
 }
 
 } // namespace Cli

@@ -1,40 +1,7 @@
 #include "RunRails.h"
 
-#include "ConsoleExchange.h"
 #include "JudgeRails.h"
-#include "Database.h"
-#include "QtSerialPort.h"
-#include "Session.h"
-
-#include <QEventLoop>
-#include <QRegularExpression>
-#include <QTimer>
-
-namespace {
-
-// One command and its whole answer; empty when the device vanished.
-QString exchangeOnce(Session &session, ConsoleExchange &exchange, SerialPort &port, const QString &command)
-{
-    QEventLoop loop;
-    bool lost = false;
-    const auto lostConnection = QObject::connect(&port, &SerialPort::lost, &loop, [&] {
-        lost = true;
-        loop.quit();
-    });
-    const auto finished = QObject::connect(&exchange, &ConsoleExchange::answerFinished, &loop, [&] {
-        // The slice of the finishing tick is appended right after the hand-over.
-        QTimer::singleShot(0, &loop, &QEventLoop::quit);
-    });
-    session.setConnectionFlag(QStringLiteral("1"));
-    exchange.setCommandField(command);
-    exchange.EnviaComando();
-    loop.exec();
-    QObject::disconnect(lostConnection);
-    QObject::disconnect(finished);
-    return lost ? QString() : exchange.console();
-}
-
-} // namespace
+#include "LiveExchange.h"
 
 int runRunRails(const QStringList &args, QTextStream &out, QTextStream &err)
 {
@@ -57,23 +24,19 @@ int runRunRails(const QStringList &args, QTextStream &out, QTextStream &err)
         return 2;
     }
 
-    Session session(options->db);
-    QtSerialPortLink port;
-    if (const int e = port.open(portName); e != SerialPort::NoError) {
-        err << QStringLiteral("cannot open port ") << portName << QStringLiteral(" (") << e << QStringLiteral(")\n");
-        return 1;
-    }
-    ConsoleExchange exchange(session, port);
-
+    LiveExchange live(options->db);
     if (options->model == QLatin1String("auto")) {
-        static const QRegularExpression number(QStringLiteral("\\bA\\d{4}\\b"));
-        const auto match = number.match(exchangeOnce(session, exchange, port, QStringLiteral("syscfg print RMd#")));
-        const auto model = match.hasMatch() ? Database(options->db).modeloRef(match.captured()) : std::nullopt;
+        const auto model = live.recogniseModel(portName);
         if (!model) {
-            err << QStringLiteral("the model could not be recognised; give it with --model\n");
+            err << (live.lost() ? QStringLiteral("the device on %1 vanished").arg(portName)
+                                : QStringLiteral("the model could not be recognised; give it with --model"))
+                << u'\n';
             return 1;
         }
         options->model = *model;
+    } else if (const QString problem = live.open(portName); !problem.isEmpty()) {
+        err << problem << u'\n';
+        return 1;
     }
 
     QString command = QStringLiteral("pmuadc --read all");
@@ -81,13 +44,13 @@ int runRunRails(const QStringList &args, QTextStream &out, QTextStream &err)
         command = QStringLiteral("buck");
     else if (options->engine == QLatin1String("buck-check"))
         command = QStringLiteral("buckcheck ") + QString::number(buck);
-    const QString answer = exchangeOnce(session, exchange, port, command);
-    port.close();
-    if (answer.trimmed().isEmpty()) {
-        err << QStringLiteral("no answer from ") << portName << u'\n';
+    const std::optional<QString> answer = live.exchange(command);
+    if (!answer || answer->trimmed().isEmpty()) {
+        err << (answer ? QStringLiteral("no answer from ") : QStringLiteral("the device vanished during the answer on "))
+            << portName << u'\n';
         return 1;
     }
-    const auto report = judgeRailsAnswer(*options, answer, &error);
+    const auto report = judgeRailsAnswer(*options, *answer, &error);
     if (!report) {
         err << error << u'\n';
         return 2;

@@ -11,7 +11,8 @@ namespace {
 struct CliRun
 {
     int exitCode = -1;
-    QStringList lines; // standard output, without empty lines
+    QString text;      // standard output as printed
+    QStringList lines; // standard output without carriage returns and empty lines
     QString errors;
 };
 
@@ -27,7 +28,8 @@ CliRun runCli(const QStringList &args)
         return run;
     }
     run.exitCode = cli.exitStatus() == QProcess::NormalExit ? cli.exitCode() : -1;
-    run.lines = QString::fromUtf8(cli.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
+    run.text = QString::fromUtf8(cli.readAllStandardOutput());
+    run.lines = QString(run.text).remove(u'\r').split(u'\n', Qt::SkipEmptyParts);
     run.errors = QString::fromUtf8(cli.readAllStandardError());
     return run;
 }
@@ -105,6 +107,8 @@ private slots:
         const CliRun run = runCli({QStringLiteral("send"), QStringLiteral("--port"), phone.port(),
                                    QStringLiteral("syscfg print RMd#")});
         QVERIFY2(run.exitCode == 0, qPrintable(describe(run)));
+        // The console's own line ends, so the saved output is a valid answer file.
+        QVERIFY2(run.text.contains(QStringLiteral("A1634\r\n")), qPrintable(describe(run)));
         QCOMPARE(run.lines.value(0), QStringLiteral("syscfg print RMd#"));
         QCOMPARE(run.lines.value(1), QStringLiteral("A1634"));
         QVERIFY2(run.lines.last().endsWith(QStringLiteral("] :-) ")), qPrintable(describe(run)));
