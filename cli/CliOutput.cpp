@@ -50,4 +50,9 @@ QString openErrorText(int error)
     }
 }
 
+QString databaseProblem(const QString &path, const QString &reason)
+{
+    return QStringLiteral("cannot read the database %1: %2").arg(path, reason);
+}
+
 } // namespace Cli

@@ -19,4 +19,12 @@ QString databasePath(const QCommandLineParser &parser);
 // The text of an open error number, for messages that name it.
 QString openErrorText(int error);
 
+// Exit codes beside JudgeReport::exitCode()'s 0 and 1: one per kind of fault, whatever the command.
+inline constexpr int BadUse = 2;         // a mistake in the arguments
+inline constexpr int UnreadableFile = 2; // an answer or database file that cannot be read
+inline constexpr int DeviceProblem = 1;  // no port, no answer, a device that vanished
+
+// Why a database could not be read, naming the file: "cannot read the database F: why".
+QString databaseProblem(const QString &path, const QString &reason);
+
 } // namespace Cli

@@ -6,6 +6,6 @@
 #include <QStringList>
 #include <QTextStream>
 
-// `args` are the arguments after "judge compare". Returns 0 when the answer was judged (whatever
-// the verdict), 1 when a file could not be read, 2 on a usage mistake.
+// `args` are the arguments after "judge compare". Returns JudgeReport::exitCode() (1 when the mark
+// stays hidden or nothing could be compared), 2 on a usage mistake or an unreadable file.
 int runJudgeCompare(const QStringList &args, QTextStream &out, QTextStream &err);

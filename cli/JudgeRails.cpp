@@ -1,25 +1,18 @@
 #include "JudgeRails.h"
 
 #include "BuckEngine.h"
+#include "CliOutput.h"
 #include "Database.h"
 #include "RailEngine.h"
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
+#include <QFileInfo>
 
 namespace {
 
 const QStringList Engines = {QStringLiteral("vcore"), QStringLiteral("buckldo"), QStringLiteral("buck-read"),
                              QStringLiteral("buck-check")};
-
-QJsonObject row(const QString &name, const QJsonValue &label, const QString &caption, const QJsonValue &deviation,
-                const QString &verdict)
-{
-    return {{QStringLiteral("name"), name}, {QStringLiteral("label"), label}, {QStringLiteral("caption"), caption},
-            {QStringLiteral("deviation"), deviation}, {QStringLiteral("verdict"), verdict}};
-}
 
 QString defaultDb()
 {
@@ -35,11 +28,13 @@ QString railsHelp()
         "      [--volt-decimals 1..3] [--amp-decimals 0..3] [--json]\n"
         "run   vcore|buckldo|buck-read|buck-check --port P --model M|auto [--db F] [...same options]\n"
         "  vcore/buckldo read every reference rail of class 0/2 of the model out of a\n"
-        "  \"pmuadc --read all\" answer. A rail passes when its deviation is within 5 %;\n"
-        "  it fails beyond that or when a rail with a reference gave no reading; a rail\n"
-        "  without a reference is not judged (none). buck-read lists \"buck\" (none);\n"
-        "  buck-check lists \"buckcheck N\" with the device's own PASS/FAIL.\n"
-        "  Exit code: 0 nothing failed, 1 something failed, 2 bad use or unreadable input.\n");
+        "  \"pmuadc --read all\" answer. A rail passes when its deviation is within %1 %;\n"
+        "  it fails beyond that, when a rail with a reference gave no reading or a value\n"
+        "  that cannot be one; a rail whose reference is missing or 0 is not judged (none).\n"
+        "  buck-read lists \"buck\" (none); buck-check lists \"buckcheck N\" with the\n"
+        "  device's own PASS/FAIL.\n"
+        "  Exit code: 0 nothing failed, 1 something failed or nothing could be judged,\n"
+        "  2 bad use or an unreadable file.\n").arg(RailEngine::DefaultTolerancePercent);
 }
 
 std::optional<RailsJudgeOptions> parseRailsOptions(const QStringList &args, QStringList *rest, QString *error)
@@ -87,17 +82,17 @@ std::optional<RailsJudgeOptions> parseRailsOptions(const QStringList &args, QStr
     return o;
 }
 
-std::optional<QJsonObject> judgeRailsAnswer(const RailsJudgeOptions &o, const QString &answer, QString *error)
+std::optional<JudgeReport> judgeRailsAnswer(const RailsJudgeOptions &o, const QString &answer, QString *error)
 {
-    QJsonArray rows;
-    bool failed = false;
-    QJsonObject extra;
+    JudgeReport report;
+    report.engine = o.engine;
+    report.model = o.model;
     if (o.engine == QLatin1String("vcore") || o.engine == QLatin1String("buckldo")) {
-        Database db(o.db);
-        if (!db.isOpen()) {
-            *error = QStringLiteral("cannot open ") + o.db + QStringLiteral(": ") + db.lastError();
+        if (!QFileInfo(o.db).isFile()) {
+            *error = Cli::databaseProblem(o.db, QStringLiteral("file not found"));
             return std::nullopt;
         }
+        Database db(o.db, Database::Access::ReadOnly);
         MasterFilter filter;
         filter.modelo = o.model;
         filter.tipo = o.engine == QLatin1String("vcore") ? 0 : 2;
@@ -105,7 +100,7 @@ std::optional<QJsonObject> judgeRailsAnswer(const RailsJudgeOptions &o, const QS
         filter.order = MasterFilter::Order::ModeloOrig;
         const QList<MasterRow> master = db.masterRows(filter);
         if (!db.lastError().isEmpty()) {
-            *error = db.lastError();
+            *error = Cli::databaseProblem(o.db, db.lastError());
             return std::nullopt;
         }
         QList<RailReference> refs;
@@ -115,48 +110,29 @@ std::optional<QJsonObject> judgeRailsAnswer(const RailsJudgeOptions &o, const QS
         settings.voltDecimals = o.voltDecimals;
         settings.ampDecimals = o.ampDecimals;
         const QList<RailMeasurement> readings = RailEngine::ProcessaLeituras(answer, refs, settings);
-        for (int i = 0; i < readings.size(); ++i) {
-            const RailVerdict v = RailEngine::verdict(readings[i], refs[i].refv, RailEngine::DefaultTolerancePercent);
-            failed = failed || v == RailVerdict::Fail;
-            rows.append(row(readings[i].malha, refs[i].reft, readings[i].leitura,
-                            readings[i].porc.isEmpty() ? QJsonValue() : QJsonValue(readings[i].porc), verdictText(v)));
-        }
-        extra = {{QStringLiteral("tolerancePercent"), RailEngine::DefaultTolerancePercent},
-                 {QStringLiteral("references"), int(refs.size())}};
+        for (int i = 0; i < readings.size(); ++i)
+            report.rows.append({readings[i].malha, refs[i].reft, readings[i].leitura,
+                                readings[i].porc.isEmpty() ? QJsonValue() : QJsonValue(readings[i].porc),
+                                RailEngine::verdict(readings[i], refs[i].refv, RailEngine::DefaultTolerancePercent)});
+        report.extra = {{QStringLiteral("tolerancePercent"), RailEngine::DefaultTolerancePercent},
+                        {QStringLiteral("references"), int(refs.size())}};
+        // An unknown model ("IP7") has no rails: said plainly, and nothing passes.
+        if (refs.isEmpty())
+            report.extra.insert(QStringLiteral("problem"),
+                                QStringLiteral("no reference rails for model \"%1\" in %2").arg(o.model, o.db));
     } else {
         const bool check = o.engine == QLatin1String("buck-check");
         const QList<BuckLine> lines = check ? ExtraiBistBuck(answer) : ExtraiLeiturasBuck(answer);
         int n = primeiroNumeroBuck(answer);
-        for (const BuckLine &l : lines) {
-            failed = failed || (check && !l.passed);
-            rows.append(row(QStringLiteral("buck") + QString::number(n++), QJsonValue(), l.text.trimmed(), QJsonValue(),
-                            check ? (l.passed ? QStringLiteral("pass") : QStringLiteral("fail")) : QStringLiteral("none")));
-        }
+        for (const BuckLine &l : lines)
+            report.rows.append({QStringLiteral("buck") + QString::number(n++), QJsonValue(), l.text.trimmed(),
+                                QJsonValue(), check ? (l.passed ? Verdict::Pass : Verdict::Fail) : Verdict::None});
     }
-    return QJsonObject{{QStringLiteral("engine"), o.engine}, {QStringLiteral("model"), o.model},
-                       {QStringLiteral("rows"), rows},
-                       {QStringLiteral("status"), rows.isEmpty() ? QStringLiteral("empty")
-                                                   : failed      ? QStringLiteral("fail")
-                                                                 : QStringLiteral("pass")},
-                       {QStringLiteral("extra"), extra}};
-}
-
-void printRailsReport(const QJsonObject &report, bool json, QTextStream &out)
-{
-    if (json) {
-        out << QJsonDocument(report).toJson(QJsonDocument::Indented);
-        return;
-    }
-    out << report.value(QStringLiteral("engine")).toString() << u' ' << report.value(QStringLiteral("model")).toString()
-        << u'\n';
-    for (const QJsonValue &v : report.value(QStringLiteral("rows")).toArray()) {
-        const QJsonObject r = v.toObject();
-        out << r.value(QStringLiteral("name")).toString().leftJustified(18) << u' '
-            << r.value(QStringLiteral("caption")).toString().leftJustified(20) << u' '
-            << r.value(QStringLiteral("deviation")).toString().leftJustified(10) << u' '
-            << r.value(QStringLiteral("verdict")).toString() << u'\n';
-    }
-    out << QStringLiteral("status: ") << report.value(QStringLiteral("status")).toString() << u'\n';
+    report.status = report.rows.isEmpty() ? QStringLiteral("empty")
+                    : report.anyFailed()  ? QStringLiteral("fail")
+                    : report.anyJudged()  ? QStringLiteral("pass")
+                                          : QStringLiteral("not judged");
+    return report;
 }
 
 int runJudgeRails(const QStringList &args, QTextStream &out, QTextStream &err)
@@ -177,14 +153,17 @@ int runJudgeRails(const QStringList &args, QTextStream &out, QTextStream &err)
     }
     QFile file(answerFile);
     if (!file.open(QIODevice::ReadOnly)) {
-        err << QStringLiteral("cannot read ") << answerFile << u'\n';
-        return 2;
+        err << QStringLiteral("cannot read the answer ") << answerFile << QStringLiteral(": ") << file.errorString()
+            << u'\n';
+        return Cli::UnreadableFile;
     }
     const auto report = judgeRailsAnswer(*options, QString::fromUtf8(file.readAll()), &error);
     if (!report) {
         err << error << u'\n';
-        return 2;
+        return Cli::UnreadableFile;
     }
-    printRailsReport(*report, options->json, out);
-    return report->value(QStringLiteral("status")).toString() == QLatin1String("fail") ? 1 : 0;
+    if (const QString problem = report->extra.value(QStringLiteral("problem")).toString(); !problem.isEmpty())
+        err << problem << u'\n';
+    report->print(out, options->json);
+    return report->exitCode();
 }

@@ -3,7 +3,8 @@
 // same engines as the rail screens, so a technician can send an answer to support and both see
 // the same verdicts. RunRails reuses judgeRailsAnswer() on an answer read from a live port.
 
-#include <QJsonObject>
+#include "JudgeReport.h"
+
 #include <QString>
 #include <QStringList>
 #include <QTextStream>
@@ -19,17 +20,15 @@ struct RailsJudgeOptions
     bool json = false;
 };
 
-// Judges `answer`; the report as DESIGN's JSON object. Nothing when the database cannot be read
-// (the reason goes to `error`).
-std::optional<QJsonObject> judgeRailsAnswer(const RailsJudgeOptions &options, const QString &answer, QString *error);
-
-// Prints a report as JSON or as an aligned table.
-void printRailsReport(const QJsonObject &report, bool json, QTextStream &out);
+// Judges `answer`. Nothing when the database cannot be read: the reason, naming the file, goes to
+// `error`. A model without reference rails gives an empty report that says so in extra.problem.
+std::optional<JudgeReport> judgeRailsAnswer(const RailsJudgeOptions &options, const QString &answer, QString *error);
 
 // Parses the options shared by judge and run; `args` starts with the engine name.
 std::optional<RailsJudgeOptions> parseRailsOptions(const QStringList &args, QStringList *rest, QString *error);
 
 QString railsHelp();
 
-// args: the words after "judge". Returns the exit code: 0 all pass, 1 a rail failed, 2 bad use or input.
+// args: the words after "judge". Returns the exit code: JudgeReport::exitCode(), or 2 on bad use or
+// an unreadable answer or database.
 int runJudgeRails(const QStringList &args, QTextStream &out, QTextStream &err);

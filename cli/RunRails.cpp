@@ -1,5 +1,6 @@
 #include "RunRails.h"
 
+#include "CliOutput.h"
 #include "JudgeRails.h"
 #include "LiveExchange.h"
 
@@ -21,7 +22,7 @@ int runRunRails(const QStringList &args, QTextStream &out, QTextStream &err)
     if (!options || !error.isEmpty() || portName.isEmpty() || options->model.isEmpty() || buck < 1 || buck > 99) {
         err << (error.isEmpty() ? QStringLiteral("--port and --model are needed (--buck 1..99)") : error) << u'\n'
             << railsHelp();
-        return 2;
+        return Cli::BadUse;
     }
 
     LiveExchange live(options->db);
@@ -31,12 +32,12 @@ int runRunRails(const QStringList &args, QTextStream &out, QTextStream &err)
             err << (live.lost() ? QStringLiteral("the device on %1 vanished").arg(portName)
                                 : QStringLiteral("the model could not be recognised; give it with --model"))
                 << u'\n';
-            return 1;
+            return Cli::DeviceProblem;
         }
         options->model = *model;
     } else if (const QString problem = live.open(portName); !problem.isEmpty()) {
         err << problem << u'\n';
-        return 1;
+        return Cli::DeviceProblem;
     }
 
     QString command = QStringLiteral("pmuadc --read all");
@@ -48,13 +49,15 @@ int runRunRails(const QStringList &args, QTextStream &out, QTextStream &err)
     if (!answer || answer->trimmed().isEmpty()) {
         err << (answer ? QStringLiteral("no answer from ") : QStringLiteral("the device vanished during the answer on "))
             << portName << u'\n';
-        return 1;
+        return Cli::DeviceProblem;
     }
     const auto report = judgeRailsAnswer(*options, *answer, &error);
     if (!report) {
         err << error << u'\n';
-        return 2;
+        return Cli::UnreadableFile;
     }
-    printRailsReport(*report, options->json, out);
-    return report->value(QStringLiteral("status")).toString() == QLatin1String("fail") ? 1 : 0;
+    if (const QString problem = report->extra.value(QStringLiteral("problem")).toString(); !problem.isEmpty())
+        err << problem << u'\n';
+    report->print(out, options->json);
+    return report->exitCode();
 }

@@ -7,9 +7,13 @@ const QString AutoComparador::PromptTail = QStringLiteral("] :-) ");
 
 QStringList AutoComparador::longestFirst(QStringList masks)
 {
-    // Plain code-point order, as the database's binary collation sorts the column.
-    std::stable_sort(masks.begin(), masks.end(),
-                     [](const QString &a, const QString &b) { return QString::compare(a, b) > 0; });
+    // Descending without regard to letter case, as the column's collation sorts it: "ABCD" comes
+    // before "abc", so a longer mask is never cut into by its own beginning in another case.
+    // Texts equal but for case fall back to code-point order, as the query does.
+    std::stable_sort(masks.begin(), masks.end(), [](const QString &a, const QString &b) {
+        const int folded = QString::compare(a, b, Qt::CaseInsensitive);
+        return folded != 0 ? folded > 0 : QString::compare(a, b) > 0;
+    });
     return masks;
 }
 

@@ -35,7 +35,7 @@ Master::Master(const ScreenContext &ctx, Shell &shell, std::function<void(QWidge
     m_data2->bind(ui->txtInfoComandos3, QStringLiteral("Info3"));
 
     ui->lbAutoComparador->setVisible(false);
-    ui->btSend->setEnabled(session().connectedAndIdle());
+    ui->btSend->setEnabled(session().validatedAndIdle());
 
     // No model and command known yet: the recorded side starts empty, the notes on the first command.
     m_data1->clear();
@@ -62,11 +62,14 @@ Master::Master(const ScreenContext &ctx, Shell &shell, std::function<void(QWidge
     connect(ui->Command3, &QPushButton::clicked, this, &Master::openAdjustments);
     connect(ui->HScroll1, &QScrollBar::valueChanged, this, &Master::setBorder);
 
-    // A connection that comes up while the screen is open lets it send (unless it waits).
-    connect(&session(), &Session::connectionFlagChanged, this, [this](const QString &flag) {
-        if (flag == QLatin1String("1") && !m_waiting)
-            ui->btSend->setEnabled(true);
-    });
+    // A connection validated while the screen is open lets it send (unless it waits); the flag
+    // alone is "1" after the empty first answer of a port where no phone answers.
+    const auto followConnection = [this] {
+        if (!m_waiting)
+            ui->btSend->setEnabled(session().validatedAndIdle());
+    };
+    connect(&session(), &Session::connectionFlagChanged, this, followConnection);
+    connect(&session(), &Session::connectionValidatedChanged, this, followConnection);
     connect(&session(), &Session::modeloChanged, this, [this] {
         updateDeviceLabel();
         BuscaDadosGravados(ui->txtComandos->currentText());
@@ -174,21 +177,21 @@ void Master::sendForThisScreen(const QString &command)
 void Master::send()
 {
     const QString command = ui->txtComandos->currentText();
-    if (!session().connectedAndIdle() || command.isEmpty())
-        return;
+    if (session().validatedAndIdle() && !command.isEmpty()) {
+        if (::AutoComparador::isLongAnswerCommand(command))
+            session().setLongAnswer(true);
+        sendForThisScreen(command);
 
-    if (::AutoComparador::isLongAnswerCommand(command))
-        session().setLongAnswer(true);
-    sendForThisScreen(command);
-
-    if (::AutoComparador::isButtonTestCommand(command)) {
-        // The result shows on the phone; the test runs until it is told to stop.
-        dialogs().information(this, Traduz(QStringLiteral("Teste de Funcionamento de Botões")),
-                              Traduz(QStringLiteral("Resultado do teste estão sendo exibidos na tela do dispositio"))
-                                  + QStringLiteral("\r\n") + Traduz(QStringLiteral("Clique em OK para finalizar")));
-        sendForThisScreen(QStringLiteral("/q"));
+        if (::AutoComparador::isButtonTestCommand(command)) {
+            // The result shows on the phone; the test runs until it is told to stop.
+            dialogs().information(this, Traduz(QStringLiteral("Teste de Funcionamento de Botões")),
+                                  Traduz(QStringLiteral("Resultado do teste estão sendo exibidos na tela do dispositio"))
+                                      + QStringLiteral("\r\n") + Traduz(QStringLiteral("Clique em OK para finalizar")));
+            sendForThisScreen(QStringLiteral("/q"));
+        }
     }
 
+    // Whether or not anything went out: a mark from an earlier answer must not stay up.
     BuscaDadosGravados(command);
     ui->lbAutoComparador->setVisible(false);
 }

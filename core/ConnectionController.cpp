@@ -118,6 +118,7 @@ void ConnectionController::onTimerValidaPorta()
     setStatusLight(QStringLiteral("Verde"));
     m_session.setConnectionFlag(QStringLiteral("1"));
     emit connectionLabelChanged(labelKey(QStringLiteral("1")));
+    m_session.setConnectionValidated(true);
     emit connected();
     recognise(false);
 }

@@ -100,8 +100,8 @@ void Inicial::wireConnection()
     connect(&exchange, &ConsoleExchange::captionChanged, this, &QWidget::setWindowTitle);
     connect(&m_connection, &ConnectionController::statusLightChanged, this, &Inicial::setStatus);
     connect(&m_connection, &ConnectionController::buttonCaptionChanged, this, [this](const QString &key) {
-        ui->Botoes_1->setText(m_context.session.Traduz(key));
-        ui->Botoes_1->setToolTip(m_context.session.Traduz(key));
+        m_connectKey = key;
+        paintConnectionState();
     });
     connect(&m_connection, &ConnectionController::modelNumberChanged, ui->lbModeloNumero, &QLabel::setText);
     connect(&m_connection, &ConnectionController::modelRecognised, this, [this](const QString &modelo) {
@@ -215,11 +215,12 @@ void Inicial::paintConnectionState()
     const Session &s = m_context.session;
     const QString flag = s.connectionFlag();
     ui->lbConexao->setText(s.Traduz(ConnectionController::labelKey(flag)));
-    const QString button = flag == QLatin1String("0") ? QStringLiteral("Conectar")
-                           : flag == QLatin1String("2") ? QStringLiteral("Conectando")
-                                                        : QStringLiteral("Desconectar");
-    ui->Botoes_1->setText(s.Traduz(button));
-    ui->Botoes_1->setToolTip(s.Traduz(button));
+    // The button says what the controller says: "Conectando" lasts until the phone is validated,
+    // although the flag is "1" as soon as the first answer ended. Disconnected is always "Conectar".
+    if (flag == QLatin1String("0"))
+        m_connectKey = QStringLiteral("Conectar");
+    ui->Botoes_1->setText(s.Traduz(m_connectKey));
+    ui->Botoes_1->setToolTip(s.Traduz(m_connectKey));
 }
 
 void Inicial::setStatus(const QString &name)

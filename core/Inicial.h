@@ -76,4 +76,5 @@ private:
     PortList &m_ports;
     QMap<QString, Registration> m_screens;
     QString m_status;
+    QString m_connectKey = QStringLiteral("Conectar"); // the connect button's caption key
 };

@@ -64,14 +64,44 @@ QString numberWithComma(double value)
 
 } // namespace
 
-std::optional<QString> CalculaPorcentagem(const QString &leitura, const QString &referencia)
+namespace {
+
+// The difference in units of the last digit and the per-cent deviation it stands for: the fixed
+// tenths for up to three units, otherwise 100 × d ÷ F. Nothing for a text that is not a number
+// or a deviation that cannot be computed (a zero reference, a reading too long to be a number).
+struct Deviation
+{
+    double units = 0;
+    double percent = 0;
+};
+
+std::optional<Deviation> deviationOf(const QString &leitura, const QString &referencia)
 {
     const auto r = readNumber(QString(leitura).remove(u'.'));
     const auto f = readNumber(QString(referencia).remove(u'.'));
     if (!r || !f)
         return std::nullopt;
     const double d = *r - *f;
+    if (d >= -3 && d <= 3) {
+        const double tenths = d == 0 ? 0 : std::ceil(std::abs(d)) / 10;
+        return Deviation{d, d < 0 ? -tenths : tenths};
+    }
+    if (*f == 0)
+        return std::nullopt; // the division fails; callers keep their previous text
+    const double p = d / (*f * 100) * 10000;
+    if (!std::isfinite(p))
+        return std::nullopt; // a garbled reading of hundreds of digits: no deviation to show
+    return Deviation{d, p};
+}
 
+} // namespace
+
+std::optional<QString> CalculaPorcentagem(const QString &leitura, const QString &referencia)
+{
+    const auto deviation = deviationOf(leitura, referencia);
+    if (!deviation)
+        return std::nullopt;
+    const double d = deviation->units;
     if (d > 2 && d <= 3) return QStringLiteral("0,3");
     if (d > 1 && d <= 2) return QStringLiteral("0,2");
     if (d > 0 && d <= 1) return QStringLiteral("0,1");
@@ -80,12 +110,7 @@ std::optional<QString> CalculaPorcentagem(const QString &leitura, const QString 
     if (d >= -2 && d < -1) return QStringLiteral("-0,2");
     if (d >= -3 && d < -2) return QStringLiteral("-0,3");
 
-    if (*f == 0)
-        return std::nullopt; // the division fails; callers keep their previous text
-    const double p = d / (*f * 100) * 10000;
-    if (!std::isfinite(p))
-        return std::nullopt; // a garbled reading of hundreds of digits: no deviation to show
-    QString s = numberWithComma(p).left(6);
+    QString s = numberWithComma(deviation->percent).left(6);
     const qsizetype comma = s.indexOf(u',');
     if (comma >= 0)
         s.truncate(comma + 2);
@@ -97,6 +122,14 @@ std::optional<QString> CalculaPorcentagem(const QString &leitura, const QString 
     else if (s == QLatin1String("0.0") || s == QLatin1String("0,0"))
         s = QStringLiteral("0");
     return s;
+}
+
+std::optional<double> desvioPercentual(const QString &leitura, const QString &referencia)
+{
+    const auto deviation = deviationOf(leitura, referencia);
+    if (!deviation)
+        return std::nullopt;
+    return deviation->percent;
 }
 
 std::optional<double> porcentagemValor(const QString &porcentagem)

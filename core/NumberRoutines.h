@@ -19,5 +19,11 @@ QString oneDecimalText(const QString &text);
 // Nothing is returned for a text that is not a number or a zero reference outside the bands.
 std::optional<QString> CalculaPorcentagem(const QString &leitura, const QString &referencia);
 
+// The deviation CalculaPorcentagem's text is made from, as a number and uncut: the fixed tenths
+// for up to three units of the last digit, otherwise 100 × d ÷ F. Verdicts are taken from this
+// number, never from the text, which is cut to six characters ("1,4E+16" shows as "1,4").
+// Nothing when the texts are not numbers or the deviation cannot be computed.
+std::optional<double> desvioPercentual(const QString &leitura, const QString &referencia);
+
 // Reads a deviation text with the decimal comma ("-0,3", "12,5") as a number.
 std::optional<double> porcentagemValor(const QString &porcentagem);

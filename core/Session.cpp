@@ -24,6 +24,17 @@ void Session::setConnectionFlag(const QString &flag)
         return;
     m_connectionFlag = flag;
     emit connectionFlagChanged(flag);
+    // A link that ends is no longer a validated one.
+    if (flag == QLatin1String("0"))
+        setConnectionValidated(false);
+}
+
+void Session::setConnectionValidated(bool validated)
+{
+    if (validated == m_connectionValidated)
+        return;
+    m_connectionValidated = validated;
+    emit connectionValidatedChanged(validated);
 }
 
 void Session::setModelo(const QString &modelo)

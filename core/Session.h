@@ -56,6 +56,12 @@ public:
     QString connectionFlag() const { return m_connectionFlag; }
     void setConnectionFlag(const QString &flag);
     bool connectedAndIdle() const { return m_connectionFlag == QLatin1String("1"); }
+    // True once a fresh connection has been validated (the phone answered) until it ends. The
+    // flag is "1" after every answer, the first one of a silent port included, so screens whose
+    // start buttons wait for a validated phone ask this as well.
+    bool connectionValidated() const { return m_connectionValidated; }
+    void setConnectionValidated(bool validated);
+    bool validatedAndIdle() const { return m_connectionValidated && connectedAndIdle(); }
 
     // The model text of the main window's model list ("IP 6" ... "IP X").
     QString modelo() const { return m_modelo; }
@@ -68,6 +74,7 @@ public:
 signals:
     void idiomaChanged(quint8 idioma);
     void connectionFlagChanged(const QString &flag);
+    void connectionValidatedChanged(bool validated);
     void modeloChanged(const QString &modelo);
 
 private:
@@ -83,6 +90,7 @@ private:
     bool m_liveEcho = false;
     bool m_longAnswer = false;
     QString m_connectionFlag = QStringLiteral("0");
+    bool m_connectionValidated = false;
     QString m_modelo = QStringLiteral("IP 7");
     QMap<QString, bool> m_open;
 };

@@ -37,8 +37,13 @@ std::optional<int> checkConfig(const QString &path, Dialogs &dialogs)
 {
     QString detail;
     const DatabaseProblem problem = Database::check(path, &detail);
-    if (problem == DatabaseProblem::None)
+    if (problem == DatabaseProblem::None) {
+        // A file from before the key columns ignored letter case gets them now. Should that
+        // fail, the file is left as it was and still works, matching letter case exactly.
+        if (!Database::upgradeCollation(path, &detail))
+            qWarning("Config.vkt keeps its letter-case rules: %s", qPrintable(detail));
         return std::nullopt;
+    }
     if (problem == DatabaseProblem::Missing) {
         dialogs.critical(nullptr, QStringLiteral("Arquivo ausente - File not found"),
                          QStringLiteral("BR - Arquivo: 'Config.vkt' ausente, reinstale o software\r\n"

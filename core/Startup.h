@@ -19,6 +19,7 @@ inline constexpr char Versao[] = "1.81";
 QString configPath(const QString &programDir);
 
 // Checks the database; on a problem shows the three-language message and returns the exit code.
+// A usable file from before the key columns ignored letter case is upgraded on the way.
 std::optional<int> checkConfig(const QString &path, Dialogs &dialogs);
 
 // Sets the session values of a fresh start (versions, flags, identifiers, language from Tools).

@@ -1,11 +1,13 @@
 -- Config.vkt: the working database beside the program.
 -- Every column holds text except Master.TIPO, the rail class the rail screens compare as a
--- number. Plain TEXT (binary collation) keeps ordering and matching exactly as the text stands.
+-- number. The key and sort columns ignore letter case (COLLATE NOCASE), as the Access file did:
+-- "help" finds the recorded "Help", and lists and masks sort as technicians have always seen
+-- them. Existing files get the same collation at start-up (Database::upgradeCollation).
 -- No table has a primary key: rows are found by their logical keys, which the indexes cover.
 
 -- Console commands offered in the command console, with a help text per language.
 CREATE TABLE Comandos (
-    Comando TEXT,
+    Comando TEXT COLLATE NOCASE,
     Info    TEXT,
     Info2   TEXT,
     Info3   TEXT
@@ -14,8 +16,8 @@ CREATE INDEX Comandos_Comando ON Comandos (Comando);
 
 -- Console answers recorded from known-good boards, one per model and command.
 CREATE TABLE Dados (
-    Aparelho TEXT,
-    Comando  TEXT,
+    Aparelho TEXT COLLATE NOCASE,
+    Comando  TEXT COLLATE NOCASE,
     Dados    TEXT,
     Info     TEXT,
     Info2    TEXT,
@@ -25,17 +27,17 @@ CREATE INDEX Dados_Aparelho_Comando ON Dados (Aparelho, Comando);
 
 -- Texts masked in console answers before two answers are compared.
 CREATE TABLE M (
-    String TEXT
+    String TEXT COLLATE NOCASE
 );
 CREATE INDEX M_String ON M (String);
 
 -- Rail references per model and net, with the last reading and three recorded ones.
 CREATE TABLE Master (
-    Modelo  TEXT,
-    Malha   TEXT,
-    Ci      TEXT,
+    Modelo  TEXT COLLATE NOCASE,
+    Malha   TEXT COLLATE NOCASE,
+    Ci      TEXT COLLATE NOCASE,
     TIPO    INTEGER,
-    Orig    TEXT,
+    Orig    TEXT COLLATE NOCASE,
     Reft    TEXT,
     refv    TEXT,
     Leitura TEXT,
@@ -49,9 +51,9 @@ CREATE INDEX Master_Modelo_TIPO ON Master (Modelo, TIPO);
 
 -- RF rail reference voltages per model and modem type ("T", "I" or "Q").
 CREATE TABLE Rf (
-    Modelo     TEXT,
-    Tipo       TEXT,
-    Malha      TEXT,
+    Modelo     TEXT COLLATE NOCASE,
+    Tipo       TEXT COLLATE NOCASE,
+    Malha      TEXT COLLATE NOCASE,
     Componente TEXT,
     Referencia TEXT
 );
@@ -59,15 +61,15 @@ CREATE INDEX Rf_Modelo_Tipo_Malha ON Rf (Modelo, Tipo, Malha);
 
 -- Expected I2C devices per model: bus digit, address, "-", description.
 CREATE TABLE i (
-    Aparelho TEXT,
-    i        TEXT
+    Aparelho TEXT COLLATE NOCASE,
+    i        TEXT COLLATE NOCASE
 );
 CREATE INDEX i_Aparelho_i ON i (Aparelho, i);
 
 -- Regulatory model numbers, framed "AST" + number + "098", and the model name they mean.
 CREATE TABLE Modelos (
-    Modelo TEXT,
-    Ref    TEXT
+    Modelo TEXT COLLATE NOCASE,
+    Ref    TEXT COLLATE NOCASE
 );
 CREATE INDEX Modelos_Modelo ON Modelos (Modelo);
 

@@ -93,6 +93,12 @@ bool Database::exec(QSqlQuery &query)
 {
     if (!ready())
         return false;
+    // A query that failed to prepare keeps that reason ("no such table: M", "file is not a
+    // database"); running it anyway would only say "No query Unable to fetch row".
+    if (query.lastError().isValid()) {
+        fail(query.lastError().text());
+        return false;
+    }
     if (!query.exec()) {
         const QSqlError error = query.lastError();
         if (error.isValid() && !error.text().trimmed().isEmpty())

@@ -39,6 +39,12 @@ public:
     static DatabaseProblem check(const QString &path, QString *detail = nullptr);
     // The tables and columns a usable file must have.
     static const QList<QPair<QString, QStringList>> &requiredSchema();
+    // The key and sort columns that compare and sort without regard to letter case.
+    static const QList<QPair<QString, QStringList>> &caseInsensitiveColumns();
+    // Gives the columns above their case-insensitive collation in a file made before they had
+    // it, keeping every row, rowid and index; a file that has it already is not written. One
+    // transaction: on failure the file stays as it was and `error` says why.
+    static bool upgradeCollation(const QString &path, QString *error = nullptr);
 
     // `text` with LIKE's wildcards escaped, for patterns written with "ESCAPE '\\'".
     static QString escapeLike(const QString &text);

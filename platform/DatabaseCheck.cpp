@@ -1,14 +1,18 @@
 // The start-up check: tells what is wrong with a database file before anything relies on it,
 // reading only. The one exception is the lock probe, a write lock taken and released at once
-// with nothing written, because only an attempt reveals another program's lock.
+// with nothing written, because only an attempt reveals another program's lock. Beside it, the
+// one upgrade a usable file may need: key columns that ignore letter case.
 #include "Database.h"
 
 #include <QAtomicInteger>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QMap>
+#include <QRegularExpression>
 #include <QSqlError>
 #include <QVariant>
+#include <algorithm>
 
 namespace {
 
@@ -160,4 +164,159 @@ DatabaseProblem Database::check(const QString &path, QString *detail)
     }
     probe.exec(QStringLiteral("ROLLBACK"));
     return DatabaseProblem::None;
+}
+
+const QList<QPair<QString, QStringList>> &Database::caseInsensitiveColumns()
+{
+    static const QList<QPair<QString, QStringList>> columns = {
+        {QStringLiteral("Comandos"), {QStringLiteral("Comando")}},
+        {QStringLiteral("Dados"), {QStringLiteral("Aparelho"), QStringLiteral("Comando")}},
+        {QStringLiteral("M"), {QStringLiteral("String")}},
+        {QStringLiteral("Master"), {QStringLiteral("Modelo"), QStringLiteral("Malha"), QStringLiteral("Ci"), QStringLiteral("Orig")}},
+        {QStringLiteral("Rf"), {QStringLiteral("Modelo"), QStringLiteral("Tipo"), QStringLiteral("Malha")}},
+        {QStringLiteral("i"), {QStringLiteral("Aparelho"), QStringLiteral("i")}},
+        {QStringLiteral("Modelos"), {QStringLiteral("Modelo"), QStringLiteral("Ref")}},
+    };
+    return columns;
+}
+
+namespace {
+
+QString quoted(const QString &name)
+{
+    return u'"' + QString(name).replace(u'"', QLatin1String("\"\"")) + u'"';
+}
+
+// The column definitions of a CREATE TABLE text, by column name (lower case).
+QMap<QString, QString> columnDefinitions(const QString &createSql)
+{
+    QMap<QString, QString> definitions;
+    const qsizetype open = createSql.indexOf(u'(');
+    const qsizetype close = createSql.lastIndexOf(u')');
+    if (open < 0 || close <= open)
+        return definitions;
+    for (const QString &part : createSql.mid(open + 1, close - open - 1).split(u',')) {
+        const QString definition = part.trimmed();
+        QString name = definition.section(u' ', 0, 0);
+        name.remove(u'"').remove(u'[').remove(u']').remove(u'`');
+        definitions.insert(name.toLower(), definition);
+    }
+    return definitions;
+}
+
+bool hasNoCase(const QString &definition)
+{
+    static const QRegularExpression nocase(QStringLiteral("\\bCOLLATE\\s+\"?NOCASE\"?"),
+                                           QRegularExpression::CaseInsensitiveOption);
+    return nocase.match(definition).hasMatch();
+}
+
+// Rebuilds `table` with `columns` case-insensitive: a copy with the new definitions, the rows
+// with their rowids, the old table dropped, the copy renamed and the indexes made again.
+bool rebuildTable(QSqlDatabase db, const QString &table, const QStringList &columns, QString *failure)
+{
+    QSqlQuery q(db);
+    auto run = [&](const QString &sql) {
+        if (q.exec(sql))
+            return true;
+        *failure = table + QStringLiteral(": ") + q.lastError().text();
+        return false;
+    };
+    if (!run(QStringLiteral("PRAGMA table_info(%1)").arg(quoted(table))))
+        return false;
+    QStringList names;
+    QStringList definitions;
+    while (q.next()) {
+        const QString name = q.value(1).toString();
+        const QString type = q.value(2).toString();
+        QString definition = quoted(name) + (type.isEmpty() ? QString() : u' ' + type);
+        if (columns.contains(name, Qt::CaseInsensitive))
+            definition += QStringLiteral(" COLLATE NOCASE");
+        names << quoted(name);
+        definitions << definition;
+    }
+    QStringList indexes;
+    if (!run(QStringLiteral("SELECT sql FROM sqlite_master WHERE type = 'index' AND tbl_name = '%1' "
+                            "AND sql IS NOT NULL")
+                 .arg(QString(table).replace(u'\'', QLatin1String("''")))))
+        return false;
+    while (q.next())
+        indexes << q.value(0).toString();
+
+    const QString copy = quoted(table + QStringLiteral("_nocase_upgrade"));
+    const QString list = names.join(QStringLiteral(", "));
+    if (!run(QStringLiteral("CREATE TABLE %1 (%2)").arg(copy, definitions.join(QStringLiteral(", "))))
+        || !run(QStringLiteral("INSERT INTO %1 (rowid, %2) SELECT rowid, %2 FROM %3").arg(copy, list, quoted(table)))
+        || !run(QStringLiteral("DROP TABLE %1").arg(quoted(table)))
+        || !run(QStringLiteral("ALTER TABLE %1 RENAME TO %2").arg(copy, quoted(table))))
+        return false;
+    for (const QString &index : std::as_const(indexes))
+        if (!run(index))
+            return false;
+    return true;
+}
+
+} // namespace
+
+bool Database::upgradeCollation(const QString &path, QString *error)
+{
+    if (error)
+        error->clear();
+    if (!QFileInfo(path).isFile()) {
+        if (error)
+            *error = QStringLiteral("%1: file not found").arg(path);
+        return false;
+    }
+    ScopedConnection connection(path, QStringLiteral("QSQLITE_BUSY_TIMEOUT=0"));
+    if (!connection.opened()) {
+        if (error)
+            *error = QStringLiteral("%1: %2").arg(path, connection.openError().text());
+        return false;
+    }
+    QSqlDatabase db = connection.db();
+
+    QList<QPair<QString, QStringList>> pending;
+    {
+        QSqlQuery q(db);
+        for (const auto &[table, columns] : caseInsensitiveColumns()) {
+            if (!q.exec(QStringLiteral("SELECT sql FROM sqlite_master WHERE type = 'table' AND name = '%1'").arg(table))) {
+                if (error)
+                    *error = QStringLiteral("%1: %2").arg(path, q.lastError().text());
+                return false;
+            }
+            if (!q.next())
+                continue; // a missing table is the start-up check's business, not the upgrade's
+            const QMap<QString, QString> definitions = columnDefinitions(q.value(0).toString());
+            const bool missing = std::any_of(columns.begin(), columns.end(), [&](const QString &c) {
+                return definitions.contains(c.toLower()) && !hasNoCase(definitions.value(c.toLower()));
+            });
+            if (missing)
+                pending.append({table, columns});
+        }
+    }
+    if (pending.isEmpty())
+        return true;
+
+    if (!db.transaction()) {
+        if (error)
+            *error = QStringLiteral("%1: %2").arg(path, db.lastError().text());
+        return false;
+    }
+    QString failure;
+    for (const auto &[table, columns] : std::as_const(pending)) {
+        if (!rebuildTable(db, table, columns, &failure)) {
+            db.rollback();
+            if (error)
+                *error = QStringLiteral("%1: %2").arg(path, failure);
+            return false;
+        }
+    }
+    if (!db.commit()) {
+        const QString reason = db.lastError().text();
+        db.rollback();
+        if (error)
+            *error = QStringLiteral("%1: %2").arg(path, reason);
+        return false;
+    }
+    return true;
 }

@@ -28,7 +28,7 @@ const QString dadosColumns = QStringLiteral("Aparelho, Comando, Dados, Info, Inf
 QSqlQuery Database::comandosQuery()
 {
     QSqlQuery query = prepare(
-        QStringLiteral("SELECT %1 FROM Comandos ORDER BY Comando").arg(comandoColumns));
+        QStringLiteral("SELECT %1 FROM Comandos ORDER BY Comando COLLATE NOCASE").arg(comandoColumns));
     exec(query);
     return query;
 }
@@ -166,7 +166,7 @@ bool Database::deleteDados(const QString &aparelho, const QString &comando)
 
 QStringList Database::maskTexts()
 {
-    return firstColumn(QStringLiteral("SELECT String FROM M ORDER BY String DESC"));
+    return firstColumn(QStringLiteral("SELECT String FROM M ORDER BY String COLLATE NOCASE DESC, String DESC"));
 }
 
 bool Database::addMaskText(const QString &text)

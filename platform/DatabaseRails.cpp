@@ -31,12 +31,12 @@ QString orderClause(MasterFilter::Order order)
 {
     switch (order) {
     case MasterFilter::Order::None: return {};
-    case MasterFilter::Order::ModeloMalha: return QStringLiteral(" ORDER BY Modelo, Malha");
-    case MasterFilter::Order::ModeloOrig: return QStringLiteral(" ORDER BY Modelo, Orig");
-    case MasterFilter::Order::Malha: return QStringLiteral(" ORDER BY Malha");
-    case MasterFilter::Order::Orig: return QStringLiteral(" ORDER BY Orig");
-    case MasterFilter::Order::CiMalha: return QStringLiteral(" ORDER BY Ci, Malha");
-    case MasterFilter::Order::CiOrig: return QStringLiteral(" ORDER BY Ci, Orig");
+    case MasterFilter::Order::ModeloMalha: return QStringLiteral(" ORDER BY Modelo COLLATE NOCASE, Malha COLLATE NOCASE");
+    case MasterFilter::Order::ModeloOrig: return QStringLiteral(" ORDER BY Modelo COLLATE NOCASE, Orig COLLATE NOCASE");
+    case MasterFilter::Order::Malha: return QStringLiteral(" ORDER BY Malha COLLATE NOCASE");
+    case MasterFilter::Order::Orig: return QStringLiteral(" ORDER BY Orig COLLATE NOCASE");
+    case MasterFilter::Order::CiMalha: return QStringLiteral(" ORDER BY Ci COLLATE NOCASE, Malha COLLATE NOCASE");
+    case MasterFilter::Order::CiOrig: return QStringLiteral(" ORDER BY Ci COLLATE NOCASE, Orig COLLATE NOCASE");
     case MasterFilter::Order::PorcDesc: return QStringLiteral(" ORDER BY Porc DESC");
     }
     return {};

@@ -17,7 +17,7 @@ std::optional<QString> comboColumn(int n)
 QSqlQuery Database::rfQuery(const QString &modelo, const QString &tipo)
 {
     QSqlQuery query = prepare(QStringLiteral("SELECT Modelo, Tipo, Malha, Componente, Referencia FROM Rf "
-                                             "WHERE Modelo = ? AND Tipo = ? ORDER BY Modelo, Malha"),
+                                             "WHERE Modelo = ? AND Tipo = ? ORDER BY Modelo COLLATE NOCASE, Malha COLLATE NOCASE"),
                               {modelo, tipo});
     exec(query);
     return query;

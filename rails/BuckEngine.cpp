@@ -2,14 +2,16 @@
 
 #include "RailEngine.h"
 
-#include <QRegularExpression>
 
 namespace {
 
-// The target of a buck check goes through the digit-count rule alone (1 to 5 digits, no sign)
-// and is always shown five characters wide.
-QString targetVolts(const QString &digits)
+// The target of a buck check goes through the digit-count rule alone (1 to 5 digits before any
+// fraction, no sign) and is always shown five characters wide; any other text is shown as it
+// stands, cut to the same width, so its line and the device's verdict are never dropped.
+QString targetVolts(const QString &target)
 {
+    const qsizetype point = target.indexOf(u'.');
+    const QString digits = point < 0 ? target : target.left(point);
     QString volts;
     switch (digits.size()) {
     case 1: volts = QStringLiteral("0.00") + digits; break;
@@ -17,7 +19,7 @@ QString targetVolts(const QString &digits)
     case 3: volts = QStringLiteral("0.") + digits; break;
     case 4:
     case 5: volts = digits.left(digits.size() - 3) + u'.' + digits.right(3); break;
-    default: volts = digits; break;
+    default: volts = target; break;
     }
     return volts.leftJustified(5, u' ', true);
 }
@@ -76,7 +78,6 @@ QList<BuckLine> ExtraiLeiturasBuck(const QString &answer)
 
 QList<BuckLine> ExtraiBistBuck(const QString &answer, const BuckWords &words)
 {
-    static const QRegularExpression digitsOnly(QStringLiteral("^\\d{1,5}$"));
     QList<BuckLine> lines;
     int number = primeiroNumeroBuck(answer);
     qsizetype from = 0;
@@ -96,13 +97,13 @@ QList<BuckLine> ExtraiBistBuck(const QString &answer, const BuckWords &words)
         from = measuredMv + 2;
 
         const QString targetText = valueBefore(answer, target + 7, targetMv);
-        const auto volts = milivoltsToVolts(valueBefore(answer, measured + 9, measuredMv));
-        if (!digitsOnly.match(targetText).hasMatch() || !volts)
-            continue;
+        // A measured text the formatter cannot take is shown as the device wrote it.
+        const QString measuredText = valueBefore(answer, measured + 9, measuredMv);
+        const QString volts = milivoltsToVolts(measuredText).value_or(measuredText);
         const QString verdict = nextWord(answer, measuredMv + 2);
         lines.append({QStringLiteral("   buck") + QString::number(number) + QStringLiteral(": ") + words.referencia
                           + QStringLiteral(": ") + targetVolts(targetText) + QStringLiteral(" V - ") + words.leitura
-                          + QStringLiteral(":  ") + *volts + QStringLiteral(" V : ") + verdict,
+                          + QStringLiteral(":  ") + volts + QStringLiteral(" V : ") + verdict,
                       verdict == QLatin1String("PASS")});
         ++number;
     }

@@ -73,13 +73,8 @@ void BuckTeste::retranslate()
     ui->lbComparador->setText(Traduz(QStringLiteral("Comparador: (Dispositivos Gravados)")));
     ui->frameVar->setTitle(Traduz(QStringLiteral("Informações adicionais")));
     ui->lbRealizando->setText(Traduz(QStringLiteral("Realizando Leitura...")));
-    QString info = infoBucks(session().modelo(), [this](const QString &k) { return Traduz(k); });
-    const QString modelo = session().modelo();
-    if (modelo == QLatin1String("IP 6") || modelo == QLatin1String("IP 6 Plus"))
-        info += QStringLiteral("\n\n") + Traduz(QStringLiteral(
-                    "* Atenção: IP 6 / IP 6 Plus sempre apresenta resultado como 'FAIL' no buck1, mesmo estando OK, "
-                    "se tratar de malha de GPU."));
-    ui->lbInfoBucks->setText(info);
+    // The model lines already carry the IP 6 / IP 6 Plus note ("Buck6GPU"): it is shown once.
+    ui->lbInfoBucks->setText(infoBucks(session().modelo(), [this](const QString &k) { return Traduz(k); }));
     ui->lbVar->setText(Traduz(QStringLiteral("VAR")) + u' ' + Traduz(QStringLiteral("VAR2")));
 }
 

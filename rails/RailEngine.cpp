@@ -3,6 +3,7 @@
 #include "NumberRoutines.h"
 
 #include <QRegularExpression>
+#include <cmath>
 
 namespace {
 
@@ -88,6 +89,7 @@ RailMeasurement RailEngine::readRail(const QString &answer, const RailReference 
         if (!volts)
             return noReading();
         reading.unit = RailUnit::Volts;
+        reading.value = *volts;
         reading.porc = deviation(*volts, row.refv);
         reading.leitura = cutVolts(*volts, settings.voltDecimals);
     } else {
@@ -98,6 +100,7 @@ RailMeasurement RailEngine::readRail(const QString &answer, const RailReference 
             return noReading();
         current.replace(u'.', u',');
         reading.unit = RailUnit::Milliamps;
+        reading.value = current;
         reading.porc = deviation(current, row.refv);
         reading.leitura = cutMilliamps(current, settings.ampDecimals);
     }
@@ -120,14 +123,29 @@ QList<RailMeasurement> RailEngine::ProcessaLeituras(const QString &answer, const
 
 RailVerdict RailEngine::verdict(const RailMeasurement &reading, const QString &refv, double tolerancePercent)
 {
-    if (refv.isEmpty())
+    // A zero reference is never divided by (its rows show "0 %"): like a missing one, there is
+    // nothing to judge against.
+    const auto reference = porcentagemValor(QString(refv).remove(u'.'));
+    if (!reference || *reference == 0)
         return RailVerdict::None;
-    if (!reading.measured)
-        return RailVerdict::Fail;
-    QString porc = reading.porc;
-    porc.remove(QStringLiteral(" %"));
-    const auto value = porcentagemValor(porc);
-    if (!value)
-        return RailVerdict::None;
-    return qAbs(*value) <= tolerancePercent ? RailVerdict::Pass : RailVerdict::Fail;
+
+    QString value = reading.value;
+    if (value.isEmpty()) {
+        value = reading.leitura.trimmed();
+        if (value.endsWith(QLatin1String(" mA"))) {
+            value.chop(3);
+        } else if (value.endsWith(QLatin1String(" V"))) {
+            value.chop(2);
+            // Volts cut to fewer decimals still count in millivolts: "0.85" is 850, not 85.
+            const qsizetype point = value.indexOf(u'.');
+            if (point >= 0)
+                value += QString(qMax<qsizetype>(0, 3 - (value.size() - point - 1)), u'0');
+        }
+    }
+    if (!isDecimalNumber(QString(value).replace(u',', u'.')))
+        return RailVerdict::Fail; // no reading, a time-out or garbage where a number belongs
+    const auto deviation = desvioPercentual(value, refv);
+    if (!deviation)
+        return RailVerdict::Fail; // a value too long to be a reading
+    return std::abs(*deviation) <= tolerancePercent ? RailVerdict::Pass : RailVerdict::Fail;
 }

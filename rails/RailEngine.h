@@ -26,6 +26,7 @@ struct RailMeasurement
     QString malha;
     QString leitura; // "0.850 V", "12,3 mA", "0 V" or the no-reading text
     QString porc;    // "0,3 %", "0 %" or empty when nothing can be said
+    QString value;   // the whole value before any cutting ("0.853", "12,34"); empty without one
     RailUnit unit = RailUnit::None;
     bool measured = false; // false when the label or a usable value was missing
 };
@@ -49,10 +50,14 @@ public:
     // One row: label search, unit, percent, time-out and the cutting of decimals.
     static RailMeasurement readRail(const QString &answer, const RailReference &row, const RailSettings &settings);
 
-    // Pass when the deviation is within `tolerancePercent`, fail when it is beyond or when a
-    // referenced rail gave no reading, none when the row has no reference to judge against.
+    // Judged on the numeric deviation of the whole value (desvioPercentual), never on the
+    // shown texts: pass within `tolerancePercent`, fail beyond it, and fail when a referenced
+    // rail gave no reading or a value that cannot be one (no number, too long to compute).
+    // None when there is nothing to judge against: no reference, a zero or unreadable one.
+    // A measurement rebuilt from a stored row (no `value`) is judged on its Leitura's number.
     static RailVerdict verdict(const RailMeasurement &reading, const QString &refv, double tolerancePercent);
 
+    // How far a rail may stray from its reference and still pass, for every screen and command.
     static constexpr double DefaultTolerancePercent = 5.0;
 };
 

@@ -80,12 +80,15 @@ RailScreen::RailScreen(const ScreenContext &context, const RailScreenKind &kind,
             [this](const QString &v) { decimalsChosen(AmpCombo, v); });
     connect(ui->cbICs, &QComboBox::currentTextChanged, this, &RailScreen::chipChosen);
 
-    // The read button waits for a validated connection.
-    ui->btExecutaLeitura->setEnabled(session().connectedAndIdle());
-    connect(&session(), &Session::connectionFlagChanged, this, [this](const QString &flag) {
+    // The read button waits for a validated connection: a flag of "1" alone may be the empty
+    // first answer of a port where no phone answers.
+    ui->btExecutaLeitura->setEnabled(session().validatedAndIdle());
+    const auto followConnection = [this] {
         if (!m_reading)
-            ui->btExecutaLeitura->setEnabled(flag == QLatin1String("1"));
-    });
+            ui->btExecutaLeitura->setEnabled(session().validatedAndIdle());
+    };
+    connect(&session(), &Session::connectionFlagChanged, this, followConnection);
+    connect(&session(), &Session::connectionValidatedChanged, this, followConnection);
     connect(&session(), &Session::modeloChanged, this, [this] {
         retranslate();
         PrePesquisa();
@@ -227,7 +230,7 @@ void RailScreen::LimpaLeituras()
 
 void RailScreen::ExecutaLeitura()
 {
-    if (m_reading || !session().connectedAndIdle())
+    if (m_reading || !session().validatedAndIdle())
         return;
     LimpaLeituras();
     MontaConsultaGrade();
@@ -316,7 +319,7 @@ void RailScreen::finishWaiting()
     ui->btExecutaLeitura->setText(Traduz(QStringLiteral("Executar Leitura")));
     ui->FrameVCore->setVisible(false);
     m_timerBarra.stop();
-    ui->btExecutaLeitura->setEnabled(session().connectedAndIdle());
+    ui->btExecutaLeitura->setEnabled(session().validatedAndIdle());
     ui->Frame1->setEnabled(true);
     ui->cbICs->setEnabled(true);
     ui->ComboDecimais->setEnabled(true);
@@ -331,7 +334,7 @@ void RailScreen::onTimerBarra()
 
 void RailScreen::restartIfIdle()
 {
-    if (!m_loading && !m_reading && session().connectedAndIdle())
+    if (!m_loading && !m_reading && session().validatedAndIdle())
         ExecutaLeitura();
 }
 

@@ -142,6 +142,9 @@ void TestAutoComparador::mask_data()
     QTest::newRow("longest first whatever the stored order")
         << QStringLiteral("Serial: 12") << QStringList{QStringLiteral("Serial"), QStringLiteral("Serial: 12")}
         << true << P;
+    QTest::newRow("longest first whatever the letter case")
+        << QStringLiteral("id ABCD x") << QStringList{QStringLiteral("abc"), QStringLiteral("ABCD")} << true
+        << QStringLiteral("id %1 x").arg(P);
     QTest::newRow("fillers removed for the console")
         << QStringLiteral("id 77") << QStringList{QStringLiteral("'jox'77")} << true << QStringLiteral("id ") + P;
     QTest::newRow("fillers kept: stored text masks nothing")

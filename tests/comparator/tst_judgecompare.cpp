@@ -6,6 +6,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QSqlDatabase>
+#include <QSqlQuery>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -58,6 +60,9 @@ void TestJudgeCompare::verdicts_data()
     const SimModel ip7 = *SimCatalog::modelByName(QStringLiteral("IP 7"));
     const QString good = demo::consoleText(ip7, QStringLiteral("nand --getinfo"));
     QTest::newRow("good board") << "IP 7" << "nand --getinfo" << good << "pass" << "Auto Comparador OK" << "ok";
+    // Letter case does not count in the lookup, as in the Access file.
+    QTest::newRow("command in capitals") << "IP 7" << "NAND --GETINFO" << good << "pass" << "Auto Comparador OK"
+                                         << "ok";
     QTest::newRow("other vendor") << "IP 7" << "nand --getinfo" << QString(good).replace(QStringLiteral("Hynix"), QStringLiteral("Toshiba"))
                                   << "fail" << "..." << "ok";
     QTest::newRow("another model's recording") << "IP X" << "nand --getinfo" << good << "fail" << "..." << "ok";
@@ -88,7 +93,9 @@ void TestJudgeCompare::verdicts()
     const Run r = cli({QStringLiteral("judge"), QStringLiteral("compare"), QStringLiteral("--model"), model,
                        QStringLiteral("--command"), command, QStringLiteral("--answer"), file,
                        QStringLiteral("--db"), QStringLiteral(VEKTO_BIN_DIR "/Config.vkt"), QStringLiteral("--json")});
-    QVERIFY2(r.exitCode == 0, qPrintable(r.err));
+    // Only a shown mark is a success: a hidden one, or nothing to compare with, is not.
+    const int exitCode = verdict == QLatin1String("pass") ? 0 : 1;
+    QVERIFY2(r.exitCode == exitCode, qPrintable(QString::number(r.exitCode) + r.err));
     const QJsonObject o = QJsonDocument::fromJson(r.out.toUtf8()).object();
     QCOMPARE(o.value(QStringLiteral("engine")).toString(), QStringLiteral("compare"));
     QCOMPARE(o.value(QStringLiteral("model")).toString(), model);
@@ -106,8 +113,12 @@ void TestJudgeCompare::verdicts()
     // The plain form says the same on one line.
     const Run plain = cli({QStringLiteral("judge"), QStringLiteral("compare"), QStringLiteral("--model"), model,
                            QStringLiteral("--command"), command, QStringLiteral("--answer"), file});
-    QCOMPARE(plain.exitCode, 0);
-    QVERIFY2(plain.out.startsWith(QStringLiteral("lbAutoComparador\t") + command + u'\t' + caption + u'\t' + verdict),
+    QCOMPARE(plain.exitCode, exitCode);
+    const QStringList lines = plain.out.split(u'\n');
+    QCOMPARE(lines.value(0), QStringLiteral("compare ") + model);
+    const QStringList words = lines.value(1).split(u' ', Qt::SkipEmptyParts);
+    QVERIFY2(words.first() == QLatin1String("lbAutoComparador") && words.last() == verdict
+                 && lines.value(1).contains(caption),
              qPrintable(plain.out));
 }
 
@@ -120,14 +131,18 @@ void TestJudgeCompare::mistakes_data()
     QTest::newRow("no command") << QStringList{"--model", "IP 7", "--answer", answer} << 2 << "usage";
     QTest::newRow("unknown option") << QStringList{"--modle", "IP 7"} << 2 << "usage";
     QTest::newRow("missing answer file")
-        << QStringList{"--model", "IP 7", "--command", "bl -n", "--answer", "/nonexistent/answer.txt"} << 1
-        << "cannot read the answer";
+        << QStringList{"--model", "IP 7", "--command", "bl -n", "--answer", "/nonexistent/answer.txt"} << 2
+        << "cannot read the answer /nonexistent/answer.txt";
+    // Every database fault: the first reason, the file named, one exit code.
     QTest::newRow("missing database")
         << QStringList{"--model", "IP 7", "--command", "bl -n", "--answer", answer, "--db", "/nonexistent/Config.vkt"}
-        << 1 << "not found";
+        << 2 << "cannot read the database /nonexistent/Config.vkt: file not found";
     QTest::newRow("not a database")
-        << QStringList{"--model", "IP 7", "--command", "bl -n", "--answer", answer, "--db", answer} << 1
-        << "database";
+        << QStringList{"--model", "IP 7", "--command", "bl -n", "--answer", answer, "--db", answer} << 2
+        << QStringLiteral("cannot read the database %1: file is not a database").arg(answer);
+    QTest::newRow("incomplete database")
+        << QStringList{"--model", "IP 7", "--command", "bl -n", "--answer", answer, "--db", "INCOMPLETE"} << 2
+        << "no such table: M";
 }
 
 void TestJudgeCompare::mistakes()
@@ -135,6 +150,23 @@ void TestJudgeCompare::mistakes()
     QFETCH(QStringList, args);
     QFETCH(int, exitCode);
     QFETCH(QString, message);
+    if (const qsizetype at = args.indexOf(QStringLiteral("INCOMPLETE")); at >= 0) {
+        // The shipped file without its masks table.
+        const QString incomplete = m_dir.filePath(QStringLiteral("incomplete.vkt"));
+        QFile::remove(incomplete);
+        QVERIFY(QFile::copy(QStringLiteral(VEKTO_BIN_DIR "/Config.vkt"), incomplete));
+        QFile::setPermissions(incomplete, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+        {
+            QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("incomplete"));
+            db.setDatabaseName(incomplete);
+            QVERIFY(db.open());
+            QVERIFY(QSqlQuery(db).exec(QStringLiteral("DROP TABLE M")));
+            db.close();
+        }
+        QSqlDatabase::removeDatabase(QStringLiteral("incomplete"));
+        args[at] = incomplete;
+        message = QStringLiteral("cannot read the database %1: %2").arg(incomplete, message);
+    }
     const Run r = cli(QStringList{QStringLiteral("judge"), QStringLiteral("compare")} + args);
     QCOMPARE(r.exitCode, exitCode);
     QVERIFY2(r.err.contains(message), qPrintable(r.err));

@@ -34,6 +34,7 @@ struct Rig : fixture::ScreenRig
     {
         port.open(QStringLiteral("sim"));
         session.setConnectionFlag(QStringLiteral("1"));
+        session.setConnectionValidated(true);
         session.setModelo(QStringLiteral("IP 7"));
         open();
     }
@@ -86,6 +87,7 @@ private slots:
     void recordThenReopen();
     void replacingAsksFirst();
     void sendGuards();
+    void refusedSendHidesTheMark();
     void buttonTestInAnyCase();
     void longAnswerCommandsSetTheFlag();
     void autoUncheckedAccumulates();
@@ -161,6 +163,7 @@ void TestMaster::sendGuards()
     QVERIFY(rig.port.written.isEmpty());
 
     rig.session.setConnectionFlag(QStringLiteral("1"));
+    rig.session.setConnectionValidated(true);
     rig.type(QString());
     rig.screen->send();
     QVERIFY(rig.port.written.isEmpty());
@@ -175,6 +178,31 @@ void TestMaster::sendGuards()
     rig.finishExchange();
     QVERIFY(rig.child<QPushButton>("btSend")->isEnabled());
     QCOMPARE(rig.session.screenId(), QStringLiteral("0"));
+}
+
+// Hidden and looked up again whether or not anything was sent: no stale mark from before.
+void TestMaster::refusedSendHidesTheMark()
+{
+    Rig rig;
+    rig.sendAndAnswer(Command, Lines);
+    rig.screen->recordAnswer();
+    rig.child<QCheckBox>("ckLimpar")->setChecked(true);
+    rig.sendAndAnswer(Command, Lines);
+    QVERIFY(rig.markShown());
+
+    rig.session.setConnectionFlag(QStringLiteral("0"));
+    QVERIFY(!rig.child<QPushButton>("btSend")->isEnabled());
+    rig.type(QStringLiteral("no such command"));
+    rig.screen->send();
+    QVERIFY(!rig.markShown());
+    QVERIFY(rig.recorded()->rawText().isEmpty()); // the lookup ran for the typed command
+    QCOMPARE(rig.port.written.size(), 2);
+
+    // A flag of "1" alone (the empty first answer of a silent port) does not let it send either.
+    rig.session.setConnectionFlag(QStringLiteral("1"));
+    QVERIFY(!rig.child<QPushButton>("btSend")->isEnabled());
+    rig.screen->send();
+    QCOMPARE(rig.port.written.size(), 2);
 }
 
 void TestMaster::buttonTestInAnyCase()

@@ -123,6 +123,38 @@ private slots:
         QCOMPARE(p.find<QLabel>("lbConexao")->text(), QStringLiteral("Desconectado"));
     }
 
+    // A port where no phone answers: the first answer ends empty and the flag is "1" at once,
+    // but the button says "Conectando" until the validation gives up.
+    void connectButtonWaitsForTheValidation()
+    {
+        Program p(m_path);
+        p.connection.connectClicked(QStringLiteral("/dev/fake"), QStringLiteral("fake"));
+        p.exchange.onTimer1(); // nothing arrived: the answer is over
+        QCOMPARE(p.session.connectionFlag(), QStringLiteral("1"));
+        for (int tick = 0; tick < ConnectionController::GiveUpAfterTicks; ++tick) {
+            p.connection.onTimerValidaPorta();
+            QCOMPARE(p.find<QPushButton>("Botoes_1")->text(), QStringLiteral("Conectando"));
+            QVERIFY(!p.session.connectionValidated());
+        }
+        p.connection.onTimerValidaPorta();
+        QCOMPARE(p.find<QPushButton>("Botoes_1")->text(), QStringLiteral("Conectar"));
+
+        // A phone that answers: "Desconectar" once validated, and the session says so.
+        p.port.onWrite = [&p](const QByteArray &) {
+            p.port.arrive({"syscfg print RMd#\r\nA1660\n[0000001A:0000BEEF] :-) "});
+        };
+        p.connection.connectClicked(QStringLiteral("/dev/fake"), QStringLiteral("fake"));
+        p.exchange.onTimer1();
+        p.exchange.onTimer2();
+        p.exchange.onTimer2();
+        p.exchange.onTimer2();
+        QCOMPARE(p.session.connectionFlag(), QStringLiteral("1"));
+        QCOMPARE(p.find<QPushButton>("Botoes_1")->text(), QStringLiteral("Conectando"));
+        p.connection.onTimerValidaPorta();
+        QCOMPARE(p.find<QPushButton>("Botoes_1")->text(), QStringLiteral("Desconectar"));
+        QVERIFY(p.session.connectionValidated());
+    }
+
     void openFailureShowsTheMessage()
     {
         Program p(m_path);

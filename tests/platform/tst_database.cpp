@@ -209,8 +209,10 @@ private slots:
         QVERIFY(db.isOpen());
         const QList<ComandoRecord> shipped = db.comandos();
         QVERIFY(shipped.size() > 40);
+        // The list sorts as the Access file did: letter case does not count.
         for (qsizetype n = 1; n < shipped.size(); ++n)
-            QVERIFY(shipped.at(n - 1).comando < shipped.at(n).comando);
+            QVERIFY2(QString::compare(shipped.at(n - 1).comando, shipped.at(n).comando, Qt::CaseInsensitive) <= 0,
+                     qPrintable(shipped.at(n - 1).comando + QStringLiteral(" / ") + shipped.at(n).comando));
 
         const QString quoted = QStringLiteral("echo 'it''s'; DROP TABLE Comandos; --");
         QVERIFY(!db.comandoExists(quoted));
@@ -265,9 +267,95 @@ private slots:
     {
         Database db(m_path);
         QVERIFY(db.maskTexts().isEmpty());
-        for (const char *text : {"ab", "abcd", "b", "abc", "x'jox'y", "AB"})
+        for (const char *text : {"ab", "abcd", "b", "abc", "x'jox'y", "AB", "ABCDE"})
             QVERIFY(db.addMaskText(QString::fromLatin1(text)));
-        QCOMPARE(db.maskTexts(), (QStringList{"x'jox'y", "b", "abcd", "abc", "ab", "AB"}));
+        // Letter case does not count, so "ABCDE" masks before its own beginning "abcd".
+        QCOMPARE(db.maskTexts(), (QStringList{"x'jox'y", "b", "ABCDE", "abcd", "abc", "ab", "AB"}));
+    }
+
+    // Keys typed in another letter case find the same rows, as in the Access file.
+    void keysIgnoreLetterCase_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QString>("first");
+        QTest::addColumn<QString>("second");
+        QTest::addColumn<bool>("found");
+        QTest::newRow("recorded answer, command in capitals") << "dados" << "IP 7" << "HELP" << true;
+        QTest::newRow("recorded answer, model in small letters") << "dados" << "ip 7" << "help" << true;
+        QTest::newRow("recorded answer, other command") << "dados" << "IP 7" << "HELPS" << false;
+        QTest::newRow("command notes") << "comando" << "nand --GETINFO" << "" << true;
+        QTest::newRow("command exists") << "exists" << "NAND --getinfo" << "" << true;
+        QTest::newRow("model number") << "modelos" << "a1660" << "" << true;
+        QTest::newRow("rail rows of the model") << "master" << "ip 7" << "pp_cpu" << true;
+        QTest::newRow("rail of another model") << "master" << "ip 7 plus" << "PP_GPU" << false;
+    }
+    void keysIgnoreLetterCase()
+    {
+        QFETCH(QString, kind);
+        QFETCH(QString, first);
+        QFETCH(QString, second);
+        QFETCH(bool, found);
+        Database db(m_path);
+        bool got = false;
+        if (kind == QLatin1String("dados"))
+            got = db.dadosRecord(first, second).has_value();
+        else if (kind == QLatin1String("comando"))
+            got = db.comando(first).has_value() && db.comandoQuery(first).next();
+        else if (kind == QLatin1String("exists"))
+            got = db.comandoExists(first);
+        else if (kind == QLatin1String("modelos"))
+            got = db.modeloRef(first) == QStringLiteral("IP 7");
+        else if (kind == QLatin1String("master"))
+            got = db.masterRow(first, second).has_value();
+        QCOMPARE(got, found);
+        QVERIFY2(db.lastError().isEmpty(), qPrintable(db.lastError()));
+    }
+
+    // A file made before the keys ignored letter case: upgraded whole, once, rows and indexes kept.
+    void oldFileUpgradedToCaseInsensitiveKeys()
+    {
+        QFile schemaFile(sourceData + QStringLiteral("/schema.sql"));
+        QVERIFY(schemaFile.open(QIODevice::ReadOnly));
+        const QString oldSchemaPath = m_dir.filePath(QStringLiteral("old-schema.sql"));
+        QFile oldSchema(oldSchemaPath);
+        QVERIFY(oldSchema.open(QIODevice::WriteOnly));
+        oldSchema.write(schemaFile.readAll().replace(" COLLATE NOCASE", ""));
+        oldSchema.close();
+        const QString old = m_dir.filePath(QStringLiteral("old.vkt"));
+        QString error;
+        QVERIFY2(DatabaseBuilder::build(oldSchemaPath, DatabaseBuilder::seedFiles(sourceData + QStringLiteral("/seed")),
+                                        old, &error),
+                 qPrintable(error));
+        QList<DadosRecord> before;
+        {
+            Database db(old);
+            QVERIFY(db.addMaskText(QStringLiteral("abc")) && db.addMaskText(QStringLiteral("ABCD")));
+            QVERIFY(!db.comandoExists(QStringLiteral("NAND --GETINFO")));
+            before = db.allDados();
+        }
+
+        QVERIFY2(Database::upgradeCollation(old, &error), qPrintable(error));
+        {
+            Database db(old);
+            QVERIFY(db.comandoExists(QStringLiteral("NAND --GETINFO")));
+            QVERIFY(db.dadosRecord(QStringLiteral("ip 7"), QStringLiteral("NAND --GETINFO")));
+            QCOMPARE(db.maskTexts().mid(0, 2), (QStringList{"ABCD", "abc"}));
+            QCOMPARE(db.allDados(), before);
+            QVERIFY(db.masterRow(QStringLiteral("IP 7"), QStringLiteral("pp_cpu")));
+        }
+        QCOMPARE(Database::check(old), DatabaseProblem::None);
+        RawConnection raw(old);
+        QSqlQuery indexes(QSqlDatabase::database(raw.name, false));
+        QVERIFY(indexes.exec(QStringLiteral("SELECT count(*) FROM sqlite_master WHERE type = 'index'")));
+        QVERIFY(indexes.next());
+        QCOMPARE(indexes.value(0).toInt(), 8);
+        indexes.finish();
+
+        // A file that is up to date is not written again.
+        const QByteArray hash = fileHash(old);
+        QVERIFY(Database::upgradeCollation(old, &error));
+        QCOMPARE(fileHash(old), hash);
+        QVERIFY(Database::upgradeCollation(m_path, &error));
     }
 
     // --- Master ------------------------------------------------------------------------------

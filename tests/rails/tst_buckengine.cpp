@@ -54,7 +54,19 @@ private slots:
                            "   buck1: Referência: 12.34 V - Leitura:  12.345 V : FAIL"}
             << QList<bool>{true, false};
         QTest::newRow("no measured") << "buck1: target 850 mV" << QStringList{} << QList<bool>{};
-        QTest::newRow("garbled target") << "target x50 mV, measured 851 mV : PASS" << QStringList{} << QList<bool>{};
+        // Whatever the target looks like, the line and the device's verdict stay.
+        QTest::newRow("target with a fraction")
+            << "buck5 target 1060.000 mV measured 0.000 mV FAIL\r\n"
+            << QStringList{"   buck1: Referência: 1.060 V - Leitura:  0.000 V : FAIL"} << QList<bool>{false};
+        QTest::newRow("target of six digits")
+            << "buck5 target 123456 mV measured 0 mV FAIL\r\n"
+            << QStringList{"   buck1: Referência: 12345 V - Leitura:  0.000 V : FAIL"} << QList<bool>{false};
+        QTest::newRow("garbled target")
+            << "target x50 mV, measured 851 mV : PASS"
+            << QStringList{"   buck1: Referência: 0.x50 V - Leitura:  0.851 V : PASS"} << QList<bool>{true};
+        QTest::newRow("garbled measured")
+            << "target 850 mV, measured ?? mV : FAIL"
+            << QStringList{"   buck1: Referência: 0.850 V - Leitura:  ?? V : FAIL"} << QList<bool>{false};
     }
 
     void bist()

@@ -53,10 +53,13 @@ private slots:
         QTest::newRow("buckldo good IP X") << "buckldo" << "IP X" << int(Profile::Good) << "pmuadc --read all" << "pass" << 0 << 0;
         QTest::newRow("vcore low rail IP 7") << "vcore" << "IP 7" << int(Profile::LowRail) << "pmuadc --read all" << "fail" << 1 << 1;
         QTest::newRow("vcore other command") << "vcore" << "IP 6" << int(Profile::Good) << "nanduid" << "fail" << 1 << -1;
-        QTest::newRow("buck read IP 8") << "buck-read" << "IP 8" << int(Profile::Good) << "buck" << "pass" << 0 << 0;
+        // A plain read only lists: nothing is judged, so nothing is a success.
+        QTest::newRow("buck read IP 8") << "buck-read" << "IP 8" << int(Profile::Good) << "buck" << "not judged" << 1 << 0;
         QTest::newRow("buck check passes") << "buck-check" << "IP 7" << int(Profile::Good) << "buckcheck 2" << "pass" << 0 << 0;
         QTest::newRow("buck1 of IP 6 fails") << "buck-check" << "IP 6" << int(Profile::Good) << "buckcheck 1" << "fail" << 1 << 1;
-        QTest::newRow("buck check of a plain read") << "buck-check" << "IP 7" << int(Profile::Good) << "buck" << "empty" << 0 << 0;
+        QTest::newRow("buck check of a plain read") << "buck-check" << "IP 7" << int(Profile::Good) << "buck" << "empty" << 1 << 0;
+        QTest::newRow("unknown model") << "vcore" << "IP7" << int(Profile::Good) << "pmuadc --read all" << "empty" << 1 << 0;
+        QTest::newRow("empty answer") << "buckldo" << "IP 7" << int(Profile::Good) << "" << "empty" << 1 << 0;
     }
     void judge()
     {
@@ -71,7 +74,8 @@ private slots:
         const QString answer = m_dir.filePath(QString::fromUtf8(QTest::currentDataTag()) + QStringLiteral(".txt"));
         QFile file(answer);
         QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(consoleAnswer(model, Profile(profile), command).toUtf8());
+        if (!command.isEmpty())
+            file.write(consoleAnswer(model, Profile(profile), command).toUtf8());
         file.close();
 
         QProcess cli;
@@ -107,6 +111,8 @@ private slots:
         QTest::newRow("missing answer file") << QStringList{"judge", "vcore", "--model", "IP 7", "--answer", "/nonexistent/a.txt"};
         QTest::newRow("missing database") << QStringList{"judge", "vcore", "--model", "IP 7", "--answer", VEKTO_BIN_DIR "/Config.vkt",
                                                          "--db", "/nonexistent/Config.vkt"};
+        QTest::newRow("not a database") << QStringList{"judge", "buckldo", "--model", "IP 7", "--answer", VEKTO_BIN_DIR "/Config.vkt",
+                                                       "--db", VEKTO_SOURCE_DIR "/README.md"};
     }
     void badUse()
     {
@@ -115,7 +121,14 @@ private slots:
         cli.start(QStringLiteral(VEKTO_BIN_DIR "/vekto-cli"), args);
         QVERIFY(cli.waitForFinished(60000));
         QCOMPARE(cli.exitCode(), 2);
-        QVERIFY(!cli.readAllStandardError().isEmpty());
+        const QString errors = QString::fromUtf8(cli.readAllStandardError());
+        QVERIFY(!errors.isEmpty());
+        // A file that cannot be used is named, with the first reason it failed.
+        const qsizetype db = args.indexOf(QStringLiteral("--db"));
+        if (db >= 0)
+            QVERIFY2(errors.startsWith(QStringLiteral("cannot read the database ") + args.value(db + 1) + u':')
+                         && !errors.contains(QLatin1String("Unable to fetch row")),
+                     qPrintable(errors));
     }
 };
 

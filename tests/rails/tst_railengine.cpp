@@ -123,31 +123,70 @@ private slots:
         QVERIFY(RailEngine::ProcessaLeituras(QString(), rows, {}).isEmpty());
     }
 
+    // Every verdict comes from the numeric deviation of the whole value, whatever the shown text.
     void verdict_data()
     {
-        QTest::addColumn<QString>("porc");
-        QTest::addColumn<bool>("measured");
+        QTest::addColumn<QString>("lines");
         QTest::addColumn<QString>("refv");
+        QTest::addColumn<QString>("porc"); // the shown text stays as the routine makes it
         QTest::addColumn<int>("expected");
-        QTest::newRow("exact") << "0 %" << true << "0.850" << int(RailVerdict::Pass);
-        QTest::newRow("at tolerance") << "-5,0 %" << true << "0.850" << int(RailVerdict::Pass);
-        QTest::newRow("beyond") << "5,8 %" << true << "0.850" << int(RailVerdict::Fail);
-        QTest::newRow("far below") << "-17,6 %" << true << "0.850" << int(RailVerdict::Fail);
-        QTest::newRow("no reading") << "0 %" << false << "0.850" << int(RailVerdict::Fail);
-        QTest::newRow("no reference") << "" << true << "" << int(RailVerdict::None);
-        QTest::newRow("no reading, no reference") << "" << false << "" << int(RailVerdict::None);
+        const int pass = int(RailVerdict::Pass), fail = int(RailVerdict::Fail), none = int(RailVerdict::None);
+        QTest::newRow("exact") << "PP_CPU 850 mV\r\r\n" << "0.850" << "0 %" << pass;
+        QTest::newRow("fixed band") << "PP_CPU 853 mV\r\r\n" << "0.850" << "0,3 %" << pass;
+        QTest::newRow("at tolerance") << "PP_CPU 1050 mV\r\r\n" << "1.000" << "5,0 %" << pass;
+        QTest::newRow("just beyond") << "PP_CPU 1051 mV\r\r\n" << "1.000" << "5,1 %" << fail;
+        QTest::newRow("far below") << "PP_CPU 700 mV\r\r\n" << "0.850" << "-17,6 %" << fail;
+        QTest::newRow("no reading") << "PP_GPU 850 mV\r\r\n" << "0.850" << "0 %" << fail;
+        QTest::newRow("time-out") << "PP_CPU timeout mV\r\r\n" << "0.850" << "0 %" << fail;
+        QTest::newRow("no reference") << "PP_CPU 850 mV\r\r\n" << "" << "" << none;
+        QTest::newRow("reference 0 is not judged") << "PP_CPU 3000 mV\r\r\n" << "0" << "0 %" << none;
+        QTest::newRow("unreadable reference") << "PP_CPU 850 mV\r\r\n" << "n/a" << "" << none;
+        // "1,35E+16" cut to six characters reads "1,3": the text must not pass the rail.
+        QTest::newRow("absurd reading, short text") << "PP_CPU 135000000000000000 mV\r\r\n" << "1.000" << "1,3 %"
+                                                    << fail;
+        QTest::newRow("hundreds of digits")
+            << QString(QStringLiteral("PP_CPU 1") + QString(308, u'0') + QStringLiteral(" mV\r\r\n")) << "0.001"
+            << "" << fail;
+        QTest::newRow("beyond any number")
+            << QString(QStringLiteral("PP_CPU 1") + QString(400, u'0') + QStringLiteral(" mV\r\r\n")) << "1.000"
+            << "" << fail;
+        QTest::newRow("current within") << "PP_CPU 12.34 mA\r\r\n" << "12,3" << "0 %" << pass;
     }
 
     void verdict()
     {
+        QFETCH(QString, lines);
+        QFETCH(QString, refv);
         QFETCH(QString, porc);
-        QFETCH(bool, measured);
+        QFETCH(int, expected);
+        const RailReference row{QStringLiteral("N"), QStringLiteral("PP_CPU"), refv, {}};
+        const RailMeasurement r = RailEngine::readRail(answerWith(lines), row, {});
+        QCOMPARE(r.porc, porc);
+        QCOMPARE(int(RailEngine::verdict(r, refv, RailEngine::DefaultTolerancePercent)), expected);
+    }
+
+    // A grid colours the rows it reads back from Master: only the shown reading is left.
+    void verdictOfStoredReading_data()
+    {
+        QTest::addColumn<QString>("leitura");
+        QTest::addColumn<QString>("refv");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("two decimals still millivolts") << "0.85 V" << "0.850" << int(RailVerdict::Pass);
+        QTest::newRow("one decimal, low") << "0.7 V" << "0.850" << int(RailVerdict::Fail);
+        QTest::newRow("cut to zero") << "0 V" << "0.850" << int(RailVerdict::Fail);
+        QTest::newRow("milliamps") << "12,3 mA" << "12,3" << int(RailVerdict::Pass);
+        QTest::newRow("no reading") << "Sem Medição*" << "0.850" << int(RailVerdict::Fail);
+        QTest::newRow("reference 0") << "3.000 V" << "0" << int(RailVerdict::None);
+    }
+
+    void verdictOfStoredReading()
+    {
+        QFETCH(QString, leitura);
         QFETCH(QString, refv);
         QFETCH(int, expected);
-        RailMeasurement r;
-        r.porc = porc;
-        r.measured = measured;
-        QCOMPARE(int(RailEngine::verdict(r, refv, RailEngine::DefaultTolerancePercent)), expected);
+        RailMeasurement stored;
+        stored.leitura = leitura;
+        QCOMPARE(int(RailEngine::verdict(stored, refv, RailEngine::DefaultTolerancePercent)), expected);
     }
 };
 

@@ -14,6 +14,7 @@
 
 #include <QComboBox>
 #include <QFile>
+#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QSqlQuery>
@@ -66,6 +67,7 @@ struct Bench
         QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
         session.setModelo(QStringLiteral("IP 7"));
         session.setConnectionFlag(QStringLiteral("1"));
+        session.setConnectionValidated(true);
     }
 
     // Runs the exchange to its end, as the main window's timers would.
@@ -219,6 +221,24 @@ private slots:
         QVERIFY(screen.findChild<QPushButton *>(QStringLiteral("btExecutaLeitura"))->isEnabled());
     }
 
+    // The flag is "1" after the empty first answer of a silent port: no reading before the
+    // phone is validated, or every rail would read "Sem Medição*" at "0 %".
+    void readButtonWaitsForTheValidation()
+    {
+        Bench b;
+        b.session.setConnectionFlag(QStringLiteral("0"));
+        b.session.setConnectionFlag(QStringLiteral("1"));
+        VCores screen(b.context);
+        auto *button = screen.findChild<QPushButton *>(QStringLiteral("btExecutaLeitura"));
+        QVERIFY(!button->isEnabled());
+        screen.ExecutaLeitura();
+        QVERIFY(b.port.written.isEmpty());
+        b.session.setConnectionValidated(true);
+        QVERIFY(button->isEnabled());
+        b.session.setConnectionFlag(QStringLiteral("0"));
+        QVERIFY(!button->isEnabled());
+    }
+
     void pulledCableGivesTheScreenBack()
     {
         Bench b;
@@ -273,6 +293,29 @@ private slots:
         QVERIFY(BuckTeste::infoBucks(QStringLiteral("IP 6s Plus"), same).contains(QStringLiteral("buck6 = CAMERA")));
         QVERIFY(BuckTeste::infoBucks(QStringLiteral("IP 8"), same).contains(QStringLiteral("buck9 = CAMERA")));
         QCOMPARE(BuckTeste::infoBucks(QStringLiteral("IP X"), same), QStringLiteral("\n\n   VAR2"));
+    }
+
+    void ip6NoteShownOnce_data()
+    {
+        QTest::addColumn<QString>("modelo");
+        QTest::addColumn<int>("notes");
+        QTest::newRow("IP 6") << "IP 6" << 1;
+        QTest::newRow("IP 6 Plus") << "IP 6 Plus" << 1;
+        QTest::newRow("IP 6s") << "IP 6s" << 0;
+    }
+    void ip6NoteShownOnce()
+    {
+        QFETCH(QString, modelo);
+        QFETCH(int, notes);
+        Bench b;
+        b.session.setModelo(modelo);
+        BuckTeste screen(b.context);
+        const QString info = screen.findChild<QLabel *>(QStringLiteral("lbInfoBucks"))->text();
+        QCOMPARE(int(info.count(QStringLiteral("IP 6 / IP 6 Plus"))), notes);
+        b.session.setIdioma(2); // and again after the screen re-captions itself
+        screen.retranslate();
+        QCOMPARE(int(screen.findChild<QLabel *>(QStringLiteral("lbInfoBucks"))->text().count(QStringLiteral("IP 6 / IP 6 Plus"))),
+                 notes);
     }
 };
 
