@@ -55,7 +55,3 @@ public:
 
     static constexpr double DefaultTolerancePercent = 5.0;
 };
-
-// Millivolt count text, with or without a fraction ("850", "-12", "4998.000"), to volts with
-// three decimals; nothing for a text that is not a number.
-std::optional<QString> milivoltsToVolts(const QString &milivolts);
