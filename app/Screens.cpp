@@ -2,9 +2,13 @@
 
 #include "BuckLdo.h"
 #include "BuckTeste.h"
+#include "Acorn.h"
+#include "Chestnut.h"
 #include "Inicial.h"
 #include "Master.h"
 #include "Session.h"
+#include "Tigris.h"
+#include "Tristar.h"
 #include "VCores.h"
 #include "xIdioma.h"
 
@@ -35,12 +39,22 @@ void registerAll(Inicial &inicial, Shell &shell)
                            false);
     inicial.registerScreen(13, QStringLiteral("BuckTeste"), QStringLiteral("Buck Teste"),
                            [](const ScreenContext &ctx) -> QWidget * { return new BuckTeste(ctx); });
+    // The chip readouts have no menu element: the IC and display screens open them by name.
+    inicial.registerScreen(0, QStringLiteral("Tigris"), QStringLiteral("Tigris"),
+                           [](const ScreenContext &ctx) -> QWidget * { return new Tigris(ctx); });
+    inicial.registerScreen(0, QStringLiteral("Tristar"), QStringLiteral("Tristar"),
+                           [](const ScreenContext &ctx) -> QWidget * { return new Tristar(ctx); });
+    inicial.registerScreen(0, QStringLiteral("Chestnut"), QStringLiteral("Chestnut"),
+                           [](const ScreenContext &ctx) -> QWidget * { return new Chestnut(ctx); });
+    inicial.registerScreen(0, QStringLiteral("Acorn"), QStringLiteral("Acorn"),
+                           [](const ScreenContext &ctx) -> QWidget * { return new Acorn(ctx); });
 }
 
 QStringList names()
 {
     return {QStringLiteral("Master"), QStringLiteral("VCores"), QStringLiteral("BuckLdo"), QStringLiteral("xIdioma"),
-            QStringLiteral("BuckTeste")};
+            QStringLiteral("BuckTeste"), QStringLiteral("Tigris"), QStringLiteral("Tristar"), QStringLiteral("Chestnut"),
+            QStringLiteral("Acorn")};
 }
 
 } // namespace Screens

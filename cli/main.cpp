@@ -1,6 +1,7 @@
 // vekto-cli: the tool's engines without a window, for scripts, support and tests.
 #include "CliCommands.h"
 #include "CliOutput.h"
+#include "JudgeChips.h"
 #include "JudgeCompare.h"
 #include "JudgeRails.h"
 #include "RunRails.h"
@@ -23,10 +24,14 @@ int main(int argc, char **argv)
              QTextStream out(stdout), err(stderr);
              if (a.value(0) == QLatin1String("compare"))
                  return runJudgeCompare(a.mid(1), out, err);
+             if (isChipEngine(a.value(0)))
+                 return runJudgeChips(a, out, err);
              return runJudgeRails(a, out, err);
          }},
         {QStringLiteral("run"), [](const QStringList &a) {
              QTextStream out(stdout), err(stderr);
+             if (isChipEngine(a.value(0)))
+                 return runRunChips(a, out, err);
              return runRunRails(a, out, err);
          }},
     };

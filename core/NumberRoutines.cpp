@@ -1,5 +1,7 @@
 #include "NumberRoutines.h"
 
+#include <QRegularExpression>
+
 #include <cmath>
 
 std::optional<QString> ConverteMilivolts(const QString &milivolts)
@@ -26,6 +28,15 @@ std::optional<QString> ConverteMilivolts(const QString &milivolts)
     else
         volts = text; // seven digits or more stay as they are
     return negative ? u'-' + volts : volts;
+}
+
+std::optional<QString> milivoltsToVolts(const QString &milivolts)
+{
+    static const QRegularExpression number(QStringLiteral("^-?\\d+(\\.\\d*)?$"));
+    if (!number.match(milivolts).hasMatch())
+        return std::nullopt;
+    // The console prints whole millivolts; the formatter wants the fraction point to find them.
+    return ConverteMilivolts(milivolts.contains(u'.') ? milivolts : milivolts + QStringLiteral(".0"));
 }
 
 QString oneDecimalText(const QString &text)

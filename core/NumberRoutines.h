@@ -10,6 +10,10 @@
 // is an invalid argument: nothing is returned and callers keep their previous value.
 std::optional<QString> ConverteMilivolts(const QString &milivolts);
 
+// Millivolt count text, with or without a fraction ("850", "-12", "4998.000"), to volts with
+// three decimals; nothing for a text that is not a number. The rail and chip readouts share it.
+std::optional<QString> milivoltsToVolts(const QString &milivolts);
+
 // "3,14" -> "3.1", "12 5" -> "12.5", "7" -> "7": commas and blanks become points, then the
 // text is kept up to one character after the first point (only the first character when none).
 QString oneDecimalText(const QString &text);

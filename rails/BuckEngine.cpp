@@ -1,6 +1,6 @@
 #include "BuckEngine.h"
 
-#include "RailEngine.h"
+#include "NumberRoutines.h"
 
 
 namespace {

@@ -48,14 +48,6 @@ QString cutMilliamps(const QString &value, int decimals)
 
 } // namespace
 
-std::optional<QString> milivoltsToVolts(const QString &milivolts)
-{
-    if (!isDecimalNumber(milivolts))
-        return std::nullopt;
-    // The console prints whole millivolts; the formatter wants the fraction point to find them.
-    return ConverteMilivolts(milivolts.contains(u'.') ? milivolts : milivolts + QStringLiteral(".0"));
-}
-
 RailMeasurement RailEngine::readRail(const QString &answer, const RailReference &row, const RailSettings &settings)
 {
     RailMeasurement reading;

@@ -60,7 +60,3 @@ public:
     // How far a rail may stray from its reference and still pass, for every screen and command.
     static constexpr double DefaultTolerancePercent = 5.0;
 };
-
-// Millivolt count text, with or without a fraction ("850", "-12", "4998.000"), to volts with
-// three decimals; nothing for a text that is not a number.
-std::optional<QString> milivoltsToVolts(const QString &milivolts);

@@ -1,5 +1,6 @@
 #include "Board.h"
 
+#include "ChipFaults.h"
 #include "RailTable.h"
 
 #include <QStringList>
@@ -89,7 +90,8 @@ QByteArray Board::applyFaults(const QString &normalised, QByteArray body)
 {
     switch (m_profile) {
     case Profile::LowRail:
-        return normalised == QLatin1String("pmuadc --read all") ? lowerRail(body) : body;
+        return ChipFaults::lowerJudgedValue(
+            normalised, normalised == QLatin1String("pmuadc --read all") ? lowerRail(body) : body);
     case Profile::I2cMissing:
         return normalised == QLatin1String("i2c -s 0") ? dropLastI2cDevice(body) : body;
     case Profile::Garbage:

@@ -1,0 +1,296 @@
+// The four chip screens with a scripted phone behind the real exchange: what each sends, what
+// the hand-over paints on the controls a technician reads (found by their names), and the few
+// things each screen does of its own (log panel, layout per model, touch, refusals, live copy).
+
+#include "Acorn.h"
+#include "Chestnut.h"
+#include "ConsoleExchange.h"
+#include "FakeDialogs.h"
+#include "SerialPort.h"
+#include "Session.h"
+#include "Tigris.h"
+#include "Tristar.h"
+
+#include <QFile>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSqlQuery>
+#include <QSqlQueryModel>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+// A phone that answers every command with the next scripted text, all in one slice.
+class ScriptedPort : public SerialPort
+{
+public:
+    QByteArrayList answers;
+    QByteArrayList written;
+    QByteArray pending;
+    int open(const QString &) override { return NoError; }
+    void close() override {}
+    bool isOpen() const override { return true; }
+    void write(const QByteArray &data) override
+    {
+        written << data;
+        pending = data + "\n" + (answers.isEmpty() ? QByteArray() : answers.takeFirst()) + "[0000001A:0000BEEF] :-) ";
+    }
+    QByteArray readAll() override { return std::exchange(pending, {}); }
+};
+
+QByteArray simAnswer(const QString &relative)
+{
+    QFile f(QStringLiteral(VEKTO_SOURCE_DIR "/sim/answers/") + relative);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+struct Bench
+{
+    QTemporaryDir dir;
+    Session session;
+    ScriptedPort port;
+    ConsoleExchange exchange;
+    FakeDialogs dialogs;
+    ScreenContext context{session, exchange, dialogs};
+
+    explicit Bench(const QString &model) : session(dir.filePath(QStringLiteral("Config.vkt"))), exchange(session, port)
+    {
+        QFile::copy(QStringLiteral(VEKTO_BIN_DIR "/Config.vkt"), session.configPath());
+        QFile::setPermissions(session.configPath(), QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+        session.setModelo(model);
+        session.setConnectionFlag(QStringLiteral("1"));
+    }
+
+    // Runs the exchange to its end, as the main window's timers would.
+    void finishExchange()
+    {
+        exchange.onTimer1();
+        for (int i = 0; i < 60 && exchange.running(); ++i)
+            exchange.onTimer2();
+    }
+};
+
+QLabel *labelOf(QWidget *screen, const char *name)
+{
+    auto *l = screen->findChild<QLabel *>(QString::fromLatin1(name));
+    if (!l)
+        qFatal("no label %s", name);
+    return l;
+}
+
+QString colour(QWidget *screen, const char *name)
+{
+    return ChipScreen::backColor(labelOf(screen, name));
+}
+
+bool shown(QWidget *screen, const char *name)
+{
+    return labelOf(screen, name)->isVisibleTo(screen);
+}
+
+} // namespace
+
+class TestChipScreens : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void tigrisReadsOnLoadAndPaints()
+    {
+        Bench b(QStringLiteral("IP 8"));
+        b.port.answers << simAnswer(QStringLiteral("ip8/tigris.txt"));
+        Tigris screen(b.context);
+        QCOMPARE(b.port.written, QByteArrayList{"pmuadc --sel tigris --read all\r"});
+        auto *read = screen.findChild<QPushButton *>(QStringLiteral("btExecutaLeitura"));
+        QVERIFY(!read->isEnabled());
+        QCOMPARE(screen.Data1()->query().boundValues(), (QVariantList{QStringLiteral("xxxxx"), QStringLiteral("xxxxxxxx")}));
+
+        b.finishExchange();
+        QVERIFY(read->isEnabled());
+        QCOMPARE(labelOf(&screen, "VBus_V")->text(), QStringLiteral("5.025 V"));
+        QCOMPARE(colour(&screen, "VBus_V"), ChipScreen::Green);
+        QCOMPARE(colour(&screen, "VDD_V"), ChipScreen::Green);
+        QCOMPARE(colour(&screen, "VBus_A"), ChipScreen::White);
+        QCOMPARE(labelOf(&screen, "VBus_A1")->text(), labelOf(&screen, "VBus_A")->text());
+        QCOMPARE(labelOf(&screen, "VBus_A2")->text(), QStringLiteral("410,6 mA"));
+        QCOMPARE(labelOf(&screen, "Temp")->text(), QStringLiteral("31.2 º"));
+        QCOMPARE(labelOf(&screen, "lbUC")->text(), QStringLiteral("U3300"));
+        QCOMPARE(labelOf(&screen, "lb_VBus1")->text(), QStringLiteral("VBUS 1"));
+        QVERIFY(screen.findChild<QWidget *>(QStringLiteral("TiFrameVbusX"))->isVisibleTo(&screen));
+        QVERIFY(shown(&screen, "lb_VBus2"));
+        QVERIFY(!shown(&screen, "Baixa1") && !shown(&screen, "Baixa3"));
+        QVERIFY(screen.findChild<QPlainTextEdit *>(QStringLiteral("txtDados"))->toPlainText().contains(QStringLiteral("tigris vntc")));
+        // The recorded-answers grid now asks for this model and command.
+        QCOMPARE(screen.Data1()->query().boundValues(),
+                 (QVariantList{QStringLiteral("IP 8"), QStringLiteral("pmuadc --sel tigris --read all")}));
+    }
+
+    void tigrisLowBusOnIp7()
+    {
+        Bench b(QStringLiteral("IP 7"));
+        b.port.answers << "tigris vbus : 4100.0 mV\ntigris vbat : 3300.0 mV\ntigris vdd : 3800.0 mV\n"
+                          "tigris vbus1 : 5000.0 mV\n";
+        Tigris screen(b.context);
+        b.finishExchange();
+        QCOMPARE(labelOf(&screen, "lb_VBus1")->text(), QStringLiteral("VBUS"));
+        QVERIFY(!screen.findChild<QWidget *>(QStringLiteral("TiFrameVbusX"))->isVisibleTo(&screen));
+        QCOMPARE(colour(&screen, "VBus_V"), ChipScreen::Yellow);
+        QCOMPARE(colour(&screen, "VBat_V"), ChipScreen::Yellow);
+        QVERIFY(shown(&screen, "Baixa1") && shown(&screen, "Baixa3"));
+        QCOMPARE(colour(&screen, "VDD_V"), ChipScreen::White);        // follows the battery warning
+        QCOMPARE(labelOf(&screen, "VBus_V1")->text(), QString());     // not read on this model
+        QCOMPARE(labelOf(&screen, "Temp")->text(), QStringLiteral("Sem Medição"));
+    }
+
+    void logButtonFoldsThePanel()
+    {
+        Bench b(QStringLiteral("IP 7"));
+        b.session.setConnectionFlag(QStringLiteral("0"));
+        Tigris screen(b.context);
+        QVERIFY(b.port.written.isEmpty()); // nothing is sent while not connected
+        auto *log = screen.findChild<QPushButton *>(QStringLiteral("btLog"));
+        auto *txt = screen.findChild<QPlainTextEdit *>(QStringLiteral("txtDados"));
+        QCOMPARE(log->text(), QStringLiteral("Exibir Log ->"));
+        QVERIFY(!txt->isVisibleTo(&screen));
+        log->click();
+        QCOMPARE(log->text(), QStringLiteral("Ocultar Log ->"));
+        QVERIFY(txt->isVisibleTo(&screen));
+        b.session.setIdioma(2);
+        screen.retranslate();
+        QCOMPARE(log->text(), QStringLiteral("Hide Log ->"));
+    }
+
+    void tristarRailsAndStatus_data()
+    {
+        QTest::addColumn<QString>("model");
+        QTest::addColumn<QByteArray>("answer");
+        QTest::addColumn<QString>("rail1");
+        QTest::addColumn<QString>("porc1");
+        QTest::addColumn<bool>("ok1");
+        QTest::addColumn<QString>("statusColour");
+        QTest::newRow("IP 7 Plus good") << "IP 7 Plus" << simAnswer(QStringLiteral("ip7plus/pmuadc-all.txt"))
+                                        << "PP3V0_TRISTAR_ANT_PROX" << ChipScreen::Green << true << ChipScreen::TextGreen;
+        QTest::newRow("IP 8 rail 1 high") << "IP 8" << QByteArray("BIST ldo7: 3300.0 mV\nBIST ildo7: 3400.0 uA\n"
+                                                                 "BIST buck3: 1800.0 mV\nBIST ldo6: 3000.0 mV\n")
+                                          << "PP3V0_S2" << ChipScreen::Yellow << false << ChipScreen::TextBlack;
+        QTest::newRow("IP 6 current too low") << "IP 6" << QByteArray("BIST ldo3: 3000.0 mV\nBIST ildo3: 1600.0 uA\n"
+                                                                     "BIST buck3: 1800.0 mV\nBIST ldo6: 3300.0 mV\n")
+                                              << "PP3V0_TRISTAR" << ChipScreen::Yellow << false << ChipScreen::TextBlack;
+    }
+    void tristarRailsAndStatus()
+    {
+        QFETCH(QString, model);
+        QFETCH(QByteArray, answer);
+        QFETCH(QString, rail1);
+        QFETCH(QString, porc1);
+        QFETCH(bool, ok1);
+        QFETCH(QString, statusColour);
+        Bench b(model);
+        b.port.answers << answer;
+        Tristar screen(b.context);
+        QCOMPARE(b.port.written, QByteArrayList{"pmuadc --read all\r"});
+        QVERIFY(!shown(&screen, "lbStatus2"));
+        b.finishExchange();
+        QCOMPARE(labelOf(&screen, "lbNomeMalha1")->text(), rail1);
+        QCOMPARE(colour(&screen, "Porc1"), porc1);
+        QCOMPARE(shown(&screen, "ok_1"), ok1);
+        QCOMPARE(shown(&screen, "no_1"), !ok1);
+        QCOMPARE(labelOf(&screen, "Porc3")->text(), QStringLiteral("ACC"));
+        QCOMPARE(colour(&screen, "Porc3"), ChipScreen::Green);
+        QCOMPARE(labelOf(&screen, "lbStatus")->text(), QStringLiteral("NORMAL"));
+        QCOMPARE(ChipScreen::foreColor(labelOf(&screen, "lbStatus")), statusColour);
+        QVERIFY(shown(&screen, "lbStatus2"));
+        QCOMPARE(labelOf(&screen, "lbStatus2")->text(), QStringLiteral("ANALISE COMPLETA"));
+    }
+
+    void hydraTitle()
+    {
+        Bench b(QStringLiteral("IP 8"));
+        b.session.setConnectionFlag(QStringLiteral("0"));
+        Tristar screen(b.context);
+        QCOMPARE(screen.windowTitle(), QStringLiteral("Tristar - Pelorin Vekto"));
+        QVERIFY(screen.setProperty("hydra", true)); // how a screen that only knows the name sets it
+        QCOMPARE(screen.windowTitle(), QStringLiteral("Hydra - Pelorin Vekto"));
+        screen.retranslate();
+        QCOMPARE(screen.windowTitle(), QStringLiteral("Hydra - Pelorin Vekto"));
+    }
+
+    void chestnutTouchReadsAgain()
+    {
+        Bench b(QStringLiteral("IP 8"));
+        b.port.answers << simAnswer(QStringLiteral("ip8/chestnut.txt")) << "touch off\n" << simAnswer(QStringLiteral("ip8/chestnut.txt"));
+        Chestnut screen(b.context);
+        b.finishExchange();
+        QCOMPARE(colour(&screen, "Porc4"), ChipScreen::Green); // the negative rail
+        QVERIFY(shown(&screen, "ok_4"));
+        QCOMPARE(labelOf(&screen, "iLDO_V_1")->text(), QStringLiteral("5.733 V"));
+        QCOMPARE(labelOf(&screen, "lbUC")->text(), QStringLiteral("U5600"));
+
+        auto *touch = screen.findChild<QPushButton *>(QStringLiteral("btTouch"));
+        QCOMPARE(touch->text(), QStringLiteral("Desligar Touch")); // "Touch OFF": what the press does
+        touch->click();
+        QCOMPARE(b.port.written.last(), QByteArray("touch --off\r"));
+        QCOMPARE(touch->text(), QStringLiteral("Ligar Touch"));
+        QCOMPARE(labelOf(&screen, "iLDO_V_1")->text(), QString());
+        QVERIFY(screen.timer1().isActive());
+        screen.onTimer1(); // the touch answer is still coming: wait
+        QCOMPARE(b.port.written.size(), 2);
+        b.finishExchange();
+        screen.onTimer1();
+        QVERIFY(!screen.timer1().isActive());
+        QCOMPARE(b.port.written.last(), QByteArray("pmuadc --sel chestnut --read all\r"));
+        b.finishExchange();
+        QCOMPARE(labelOf(&screen, "iLDO_V_1")->text(), QStringLiteral("5.733 V"));
+    }
+
+    void refusals_data()
+    {
+        QTest::addColumn<QString>("screen");
+        QTest::addColumn<QString>("model");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("Chestnut on IP X") << "Chestnut" << "IP X" << "info:IP X!|NOT FOR X!";
+        QTest::newRow("Acorn on IP 8 Plus") << "Acorn" << "IP 8 Plus" << "SOMENTE_X";
+    }
+    void refusals()
+    {
+        QFETCH(QString, screen);
+        QFETCH(QString, model);
+        QFETCH(QString, shown);
+        Bench b(model);
+        std::unique_ptr<ChipScreen> s;
+        if (screen == QLatin1String("Chestnut"))
+            s = std::make_unique<Chestnut>(b.context);
+        else
+            s = std::make_unique<Acorn>(b.context);
+        QCOMPARE(b.dialogs.shown, QStringList{shown}); // on load, the phone being idle
+        s->findChild<QPushButton *>(QStringLiteral("btExecutaLeitura"))->click();
+        QCOMPARE(b.dialogs.shown, (QStringList{shown, shown}));
+        QVERIFY(b.port.written.isEmpty());
+        QCOMPARE(b.session.screenId(), QStringLiteral("0"));
+    }
+
+    void acornMirrorsTheConsoleLive()
+    {
+        Bench b(QStringLiteral("IP X"));
+        b.port.answers << simAnswer(QStringLiteral("ipx/pmuadc-all.txt"));
+        Acorn screen(b.context);
+        auto *txt = screen.findChild<QPlainTextEdit *>(QStringLiteral("txtDados"));
+        QVERIFY(txt->isVisibleTo(&screen));
+        b.exchange.onTimer1(); // the first slice, long before the answer ends
+        QVERIFY(txt->toPlainText().contains(QStringLiteral("acorn ih :")));
+        QVERIFY(!shown(&screen, "lbStatus2"));
+        for (int i = 0; i < 60 && b.exchange.running(); ++i)
+            b.exchange.onTimer2();
+        QCOMPARE(labelOf(&screen, "M4")->text(), QStringLiteral("-6.723 V"));
+        QCOMPARE(colour(&screen, "P4"), ChipScreen::Green);
+        QVERIFY(shown(&screen, "ok_0"));
+        QCOMPARE(labelOf(&screen, "lbStatus2")->text(), QStringLiteral("ANALISE COMPLETA * Beta"));
+        QVERIFY(shown(&screen, "lbStatus2"));
+        QVERIFY(!b.session.liveEcho());
+    }
+};
+
+QTEST_MAIN(TestChipScreens)
+#include "tst_chipscreens.moc"
