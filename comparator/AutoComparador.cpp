@@ -25,16 +25,18 @@ QString AutoComparador::removeFillerMarks(const QString &mask)
     return cleaned;
 }
 
+Masker AutoComparador::masker(const QStringList &masks, FillerMarks fillerMarks)
+{
+    QStringList ordered = longestFirst(masks);
+    if (fillerMarks == FillerMarks::Remove)
+        for (QString &m : ordered)
+            m = removeFillerMarks(m);
+    return Masker(ordered);
+}
+
 QString AutoComparador::mask(const QString &text, const QStringList &masks, FillerMarks fillerMarks)
 {
-    QString result = text;
-    for (const QString &stored : longestFirst(masks)) {
-        const QString m = fillerMarks == FillerMarks::Remove ? removeFillerMarks(stored) : stored;
-        if (m.isEmpty())
-            continue;
-        result.replace(m, Placeholder, Qt::CaseInsensitive);
-    }
-    return result;
+    return masker(masks, fillerMarks).mask(text);
 }
 
 AutoComparador::Mark AutoComparador::evaluate(const QString &console, const QString &recorded,
@@ -42,11 +44,16 @@ AutoComparador::Mark AutoComparador::evaluate(const QString &console, const QStr
 {
     if (longAnswer)
         return Mark::Unchanged;
+    return evaluateMasked(mask(console, masks, FillerMarks::Remove), recorded);
+}
 
-    QString c = mask(console, masks, FillerMarks::Remove);
+AutoComparador::Mark AutoComparador::evaluateMasked(QStringView maskedConsole, QStringView recorded)
+{
+    // Views, not copies: with "Auto" unchecked the console holds the whole session.
+    QStringView c = maskedConsole;
     if (c.indexOf(PromptTail) >= 1)
         c.chop(std::min<qsizetype>(PromptLineLength, c.size()));
-    c.remove(0, 2);
+    c = c.size() > 2 ? c.sliced(2) : QStringView();
 
     // The recorded text keeps the two leading characters dropped above, so an identical answer
     // is found at the third character; a find at the very first one counts as a mismatch.

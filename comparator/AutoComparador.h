@@ -4,8 +4,11 @@
 // on the command line and the tests' tables; it also owns the masking that hides the parts of an
 // answer that differ from board to board (serial numbers, addresses) before two answers meet.
 
+#include "Masker.h"
+
 #include <QString>
 #include <QStringList>
+#include <QStringView>
 
 class AutoComparador
 {
@@ -33,6 +36,9 @@ public:
 
     static QString removeFillerMarks(const QString &mask);
 
+    // The masker of the texts of M: fillers handled as asked, longest first.
+    static Masker masker(const QStringList &masks, FillerMarks fillerMarks);
+
     // Replaces, ignoring letter case, every occurrence of each mask (longest first) by the
     // placeholder. Empty masks (also those that were nothing but filler marks) mask nothing.
     static QString mask(const QString &text, const QStringList &masks, FillerMarks fillerMarks);
@@ -40,6 +46,8 @@ public:
     // The console's automatic comparison of console text `console` with recorded text `recorded`.
     static Mark evaluate(const QString &console, const QString &recorded, const QStringList &masks,
                          bool longAnswer);
+    // The same comparison for a console text that has been masked already.
+    static Mark evaluateMasked(QStringView maskedConsole, QStringView recorded);
 
     // Commands whose answers are too long to compare ("TESTMEMORY --1MB", "HELP"), any case.
     static bool isLongAnswerCommand(const QString &command);

@@ -14,13 +14,19 @@ public:
     explicit ConsoleTextEdit(QWidget *parent = nullptr);
 
     // The text as received or as stored; after a user edit, the shown text with CR LF line ends.
-    QString rawText() const { return m_raw; }
+    // A reference: a copy kept by a caller would make the next append copy the whole session.
+    const QString &rawText() const { return m_raw; }
     void setRawText(const QString &text);
+    // Adds at the end without touching the text already shown, so an append costs what the
+    // appended text costs however long the console has grown.
     void appendRaw(const QString &text);
+    // Changes whenever the text changes other than by appendRaw(): set, cleared or edited.
+    quint64 revision() const { return m_revision; }
 
 private:
     static QString displayed(const QString &raw);
 
     QString m_raw;
+    quint64 m_revision = 0;
     bool m_setting = false;
 };

@@ -19,7 +19,7 @@
 Master::Master(const ScreenContext &ctx, Shell &shell, std::function<void(QWidget *)> showWindow,
                QWidget *parent)
     : TestScreen(ctx, QStringLiteral("Master"), parent), ui(std::make_unique<Ui::Master>()), m_shell(shell),
-      m_showWindow(std::move(showWindow)), m_db(std::make_unique<Database>(ctx.session.configPath()))
+      m_showWindow(std::move(showWindow)), m_db(std::make_unique<Database>(ctx.session.configPath())), m_masks(*m_db)
 {
     ui->setupUi(this);
     setAttribute(Qt::WA_DeleteOnClose);
@@ -209,10 +209,14 @@ void Master::handOver(const QString &answer)
 
 void Master::AutoComparador()
 {
-    const auto mark = ::AutoComparador::evaluate(ui->txtConsole->rawText(), ui->txtComparador->rawText(),
-                                               m_db->maskTexts(), session().longAnswer());
-    if (mark != ::AutoComparador::Mark::Unchanged)
-        ui->lbAutoComparador->setVisible(mark == ::AutoComparador::Mark::Shown);
+    // A long answer is not judged: the mark keeps its state and nothing is masked.
+    if (session().longAnswer())
+        return;
+    const Masker &masker = m_masks.masker();
+    const QString &masked = m_maskedConsole.update(masker, m_masks.revision(), ui->txtConsole->rawText(),
+                                                   ui->txtConsole->revision());
+    const auto mark = ::AutoComparador::evaluateMasked(masked, ui->txtComparador->rawText());
+    ui->lbAutoComparador->setVisible(mark == ::AutoComparador::Mark::Shown);
 }
 
 bool Master::writeSucceeded(bool ok)
@@ -359,8 +363,7 @@ void Master::openHelpPdf()
 
 void Master::maskRecordedAnswer()
 {
-    ui->txtComparador->setRawText(::AutoComparador::mask(ui->txtComparador->rawText(), m_db->maskTexts(),
-                                                       ::AutoComparador::FillerMarks::Remove));
+    ui->txtComparador->setRawText(m_masks.masker().mask(ui->txtComparador->rawText()));
     saveEdits();
 }
 

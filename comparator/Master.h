@@ -4,6 +4,8 @@
 // match. It is also where recorded answers, their notes, the command list and the masking texts
 // are kept up to date, so it holds one connection to Config.vkt for its bound views.
 
+#include "Masker.h"
+#include "MaskTable.h"
 #include "TestScreen.h"
 
 #include <QPointer>
@@ -74,6 +76,8 @@ private:
     Shell &m_shell;
     std::function<void(QWidget *)> m_showWindow;
     std::unique_ptr<Database> m_db;
+    MaskTable m_masks;
+    GrowingMaskedText m_maskedConsole; // the console masked, one answer at a time
     BoundRecordView *m_data1 = nullptr; // the recorded answer (Dados)
     BoundRecordView *m_data2 = nullptr; // the command's notes (Comandos)
     QPointer<fmHelp> m_help;

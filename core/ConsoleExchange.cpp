@@ -6,9 +6,12 @@
 ConsoleExchange::ConsoleExchange(Session &session, SerialPort &port, QObject *parent)
     : QObject(parent), m_session(session), m_port(port)
 {
-    // Created stopped; only a send starts them.
+    // Created stopped; only a send starts them. Precise: a coarse timer may fire 5 % early or
+    // late, which made a short exchange last anywhere from 1.90 s to 2.10 s instead of 2.0 s.
     m_timer1.setInterval(SliceIntervalMs);
     m_timer2.setInterval(SliceIntervalMs);
+    m_timer1.setTimerType(Qt::PreciseTimer);
+    m_timer2.setTimerType(Qt::PreciseTimer);
     connect(&m_timer1, &QTimer::timeout, this, &ConsoleExchange::onTimer1);
     connect(&m_timer2, &QTimer::timeout, this, &ConsoleExchange::onTimer2);
     // A pulled cable must not leave the screens waiting for silence that never comes.

@@ -65,6 +65,10 @@ Inicial::Inicial(const ScreenContext &context, ConnectionController &connection,
     connect(&m_context.session, &Session::connectionFlagChanged, this, &Inicial::paintConnectionState);
     connect(&m_context.session, &Session::idiomaChanged, this, &Inicial::Traducao_Form_Inicial);
     connect(&m_ports, &PortList::changed, this, &Inicial::fillPorts);
+    // The list only matters while a port can be picked: connected, nothing is watched or scanned.
+    connect(&m_context.session, &Session::connectionFlagChanged, &m_ports,
+            [this](const QString &flag) { m_ports.setWatching(flag == QLatin1String("0")); });
+    m_ports.setWatching(m_context.session.connectionFlag() == QLatin1String("0"));
     wireConnection();
 
     // Main window load: translate, light white, title with the version, ports, counter at zero.

@@ -130,6 +130,7 @@ bool Database::inTransaction(const std::function<bool()> &work)
     }
     if (work() && db.commit()) {
         m_lastError.clear();
+        ++m_commits;
         return true;
     }
     // Keep the first reason: the rollback's own message would hide it.
@@ -139,6 +140,15 @@ bool Database::inTransaction(const std::function<bool()> &work)
         reason = QStringLiteral("The change could not be saved");
     fail(reason);
     return false;
+}
+
+quint64 Database::dataVersion()
+{
+    // SQLite's data_version moves with every commit of another connection, never with this
+    // connection's own, so those are counted here.
+    bool found = false;
+    const QString pragma = firstRowValue(QStringLiteral("PRAGMA data_version"), &found);
+    return (pragma.toULongLong() << 32) + m_commits;
 }
 
 QString Database::firstRowValue(const QString &sql, bool *found)

@@ -49,6 +49,11 @@ public:
     // `text` with LIKE's wildcards escaped, for patterns written with "ESCAPE '\\'".
     static QString escapeLike(const QString &text);
 
+    // Differs from the last value whenever the file may have changed since, by this connection
+    // or any other; lets a reader keep what it read until then (the masks of M, read at every
+    // answer otherwise).
+    quint64 dataVersion();
+
     // --- Comandos ------------------------------------------------------------------------
     QList<ComandoRecord> comandos();                 // ordered by Comando
     QSqlQuery comandosQuery();                       // same, for a bound view
@@ -131,4 +136,5 @@ private:
     QString m_path;
     QString m_connectionName;
     QString m_lastError;
+    quint64 m_commits = 0; // this connection's own commits
 };

@@ -36,17 +36,75 @@ bool processAlive(qint64 pid)
 
 } // namespace
 
-PortList::PortList(QObject *parent) : QObject(parent)
+PortList::PortList(QObject *parent) : PortList(simulatorFolder(), parent)
 {
-    m_ports = scan();
+}
+
+PortList::PortList(const QString &simulatorFolder, QObject *parent)
+    : QObject(parent), m_simulatorFolder(simulatorFolder)
+{
+    m_settle.setSingleShot(true);
+    m_settle.setInterval(SettleMs);
+    connect(&m_settle, &QTimer::timeout, this, &PortList::refresh);
+    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, &m_settle, qOverload<>(&QTimer::start));
     m_poll.setInterval(PollIntervalMs);
     connect(&m_poll, &QTimer::timeout, this, &PortList::refresh);
+    // Made here, so simulators started later are seen through the watch.
+    QDir().mkpath(m_simulatorFolder);
+    ++m_scans;
+    m_ports = scan(m_simulatorFolder);
+    setWatching(true);
+}
+
+QStringList PortList::watchedFolders() const
+{
+    QStringList folders;
+#ifndef Q_OS_WIN
+    // USB boxes appear in /dev (and by name in /dev/serial/by-id); simulators register in their
+    // folder, and a simulator that was killed shows as its terminal vanishing from /dev/pts.
+    for (const char *folder : {"/dev", "/dev/serial/by-id", "/dev/pts"})
+        if (QFileInfo(QLatin1String(folder)).isDir())
+            folders << QLatin1String(folder);
+#endif
+    if (QFileInfo(m_simulatorFolder).isDir())
+        folders << m_simulatorFolder;
+    return folders;
+}
+
+void PortList::setWatching(bool on)
+{
+    const bool resuming = on && !m_watching;
+    m_watching = on;
+    m_settle.stop();
+    m_poll.stop();
+    if (!m_watcher.directories().isEmpty())
+        m_watcher.removePaths(m_watcher.directories());
+    if (!on)
+        return;
+    const QStringList folders = watchedFolders();
+    const QStringList failed = folders.isEmpty() ? QStringList() : m_watcher.addPaths(folders);
+#ifdef Q_OS_WIN
+    // COM ports live in no folder: only a poll sees them come and go.
     m_poll.start();
+#else
+    if (folders.isEmpty() || failed.size() == folders.size())
+        m_poll.start();
+#endif
+    if (resuming && m_scans > 0)
+        refresh();
 }
 
 void PortList::refresh()
 {
-    QList<PortEntry> now = scan();
+    ++m_scans;
+    QList<PortEntry> now = scan(m_simulatorFolder);
+    // A folder that appeared since (a first USB box makes /dev/serial/by-id) is watched too.
+    if (m_watching && !m_poll.isActive()) {
+        const QStringList folders = watchedFolders();
+        for (const QString &folder : folders)
+            if (!m_watcher.directories().contains(folder))
+                m_watcher.addPath(folder);
+    }
     if (now == m_ports)
         return;
     m_ports = std::move(now);
@@ -55,10 +113,16 @@ void PortList::refresh()
 
 QList<PortEntry> PortList::scan()
 {
+    return scan(simulatorFolder());
+}
+
+QList<PortEntry> PortList::scan(const QString &simulatorFolder)
+{
 #ifdef Q_OS_WIN
+    Q_UNUSED(simulatorFolder);
     return comPorts();
 #else
-    return serialDevices() + simulatorPorts();
+    return serialDevices() + simulatorPorts(simulatorFolder);
 #endif
 }
 

@@ -1,8 +1,11 @@
 #pragma once
 // The ports the technician can pick from. On Windows these are the COM numbers that exist; on
 // other systems the serial devices the platform reports plus every running phone simulator, so
-// the simulator can be picked like a box on a cable. A light poll notices plugging and unplugging.
+// the simulator can be picked like a box on a cable. Plugging and unplugging are noticed by
+// watching the device folders, so nothing is scanned while nothing changes; where the system
+// cannot tell (Windows COM ports) a poll does it. While a port is open nothing is watched at all.
 
+#include <QFileSystemWatcher>
 #include <QList>
 #include <QObject>
 #include <QString>
@@ -22,9 +25,21 @@ class PortList : public QObject
 {
     Q_OBJECT
 public:
-    static constexpr int PollIntervalMs = 2000;
+    static constexpr int PollIntervalMs = 2000; // only where no folder can be watched
+    // A plugged box makes several entries appear in a burst; one scan after it settles.
+    static constexpr int SettleMs = 250;
 
     explicit PortList(QObject *parent = nullptr);
+    // Simulators registered in `simulatorFolder` instead of the usual one.
+    explicit PortList(const QString &simulatorFolder, QObject *parent = nullptr);
+
+    // On while no port is open: a change of the devices rescans the list. Off while connected:
+    // the open port is not chosen from the list, so nothing is watched or scanned. Turning it
+    // back on scans at once, for what changed meanwhile.
+    void setWatching(bool on);
+    bool watching() const { return m_watching; }
+    // Full scans since the list was made (the start-up scan included).
+    int scanCount() const { return m_scans; }
 
     // The ports as last scanned; the last entry is the one to preselect.
     const QList<PortEntry> &ports() const { return m_ports; }
@@ -33,6 +48,7 @@ public:
 
     // Every port present now, in the order to offer them.
     static QList<PortEntry> scan();
+    static QList<PortEntry> scan(const QString &simulatorFolder);
     // Windows: COM1..COM30 that exist, ascending.
     static QList<PortEntry> comPorts();
     // Serial devices reported by the platform, sorted by name.
@@ -49,6 +65,13 @@ signals:
     void changed();
 
 private:
+    QStringList watchedFolders() const;
+
+    QString m_simulatorFolder;
     QList<PortEntry> m_ports;
+    QFileSystemWatcher m_watcher;
+    QTimer m_settle;
     QTimer m_poll;
+    bool m_watching = false;
+    int m_scans = 0;
 };

@@ -2,11 +2,16 @@
 
 #include <QSerialPort>
 
+#include <algorithm>
+
 QtSerialPortLink::QtSerialPortLink(QObject *parent)
     : SerialPort(parent), m_port(new QSerialPort(this))
 {
     connect(m_port, &QSerialPort::errorOccurred, this,
             [this](QSerialPort::SerialPortError error) { onError(error); });
+    // Taken as it comes rather than at the exchange's slice ticks, so the port's own buffer never
+    // grows while the phone talks between exchanges.
+    connect(m_port, &QSerialPort::readyRead, this, &QtSerialPortLink::take);
 }
 
 QtSerialPortLink::~QtSerialPortLink()
@@ -39,6 +44,7 @@ int QtSerialPortLink::open(const QString &name)
         return PortAlreadyOpen;
     }
     m_pending.clear();
+    m_dropped = 0;
     m_port->setPortName(name);
     m_port->setBaudRate(QSerialPort::Baud115200);
     m_port->setDataBits(QSerialPort::Data8);
@@ -76,12 +82,23 @@ void QtSerialPortLink::write(const QByteArray &data)
         m_port->write(data);
 }
 
+void QtSerialPortLink::take()
+{
+    if (!m_port->isOpen())
+        return;
+    const qint64 wanted = std::min<qint64>(m_unreadLimit - m_pending.size(), m_port->bytesAvailable());
+    if (wanted > 0)
+        m_pending += m_port->read(wanted);
+    const qint64 beyond = m_port->bytesAvailable();
+    if (beyond > 0)
+        m_dropped += m_port->skip(beyond);
+}
+
 QByteArray QtSerialPortLink::readAll()
 {
+    take();
     QByteArray out;
     out.swap(m_pending);
-    if (m_port->isOpen())
-        out += m_port->readAll();
     return out;
 }
 
@@ -95,7 +112,7 @@ void QtSerialPortLink::onError(int error)
     if (error != QSerialPort::ResourceError && error != QSerialPort::ReadError)
         return;
     // Keep what had already arrived: the exchange still delivers it.
-    m_pending += m_port->readAll();
+    take();
     m_port->clearError();
     m_port->close();
     if (m_lostReported)

@@ -12,6 +12,13 @@ class QtSerialPortLink : public SerialPort
 {
     Q_OBJECT
 public:
+    // At most this much received text waits for the next exchange: the longest answer one
+    // exchange takes in (the first look and 50 slices of 500 ms at 115200 baud, 51 × 5,760
+    // bytes). A phone that talks while nobody asks fills it, and what arrives beyond it is
+    // dropped, as a full receive buffer of a serial box drops it: the next exchange still gets
+    // the oldest waiting bytes, in order, and memory stays flat however long the phone talks.
+    static constexpr qsizetype DefaultUnreadLimit = 51 * 5760;
+
     explicit QtSerialPortLink(QObject *parent = nullptr);
     ~QtSerialPortLink() override;
 
@@ -21,6 +28,11 @@ public:
     void write(const QByteArray &data) override;
     QByteArray readAll() override;
 
+    void setUnreadLimit(qsizetype bytes) { m_unreadLimit = bytes; }
+    qsizetype unreadBytes() const { return m_pending.size(); }
+    // Bytes dropped because the unread buffer was full, since the port was opened.
+    qint64 droppedBytes() const { return m_dropped; }
+
     // The platform's reason for the last failed open, for messages that name it.
     QString lastErrorText() const { return m_lastErrorText; }
 
@@ -29,9 +41,13 @@ public:
 
 private:
     void onError(int serialPortError);
+    // Moves what the port received into the unread buffer, up to its limit.
+    void take();
 
     QSerialPort *m_port; // a child: callers never see QSerialPort
-    QByteArray m_pending; // received before the device vanished, still owed to readAll()
+    QByteArray m_pending; // received, not yet handed out by readAll()
+    qsizetype m_unreadLimit = DefaultUnreadLimit;
+    qint64 m_dropped = 0;
     QString m_lastErrorText;
     bool m_lostReported = false;
 };

@@ -4,6 +4,7 @@
 #include "PortList.h"
 
 #include <QProcess>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -102,6 +103,41 @@ private slots:
         const QList<PortEntry> ports = PortList::simulatorPorts(folder.path());
         QCOMPARE(ports.size(), 1);
         QCOMPARE(ports[0].numberText, QStringLiteral("null"));
+    }
+
+    // While no port is open a new simulator shows up through the folder watch, without a poll;
+    // while connected nothing is scanned; reconnecting to the list catches up at once.
+    void devicesNoticedOnlyWhileDisconnected()
+    {
+        QTemporaryDir folder;
+        QVERIFY(folder.isValid());
+        const QString device = folder.filePath(QStringLiteral("pts-9"));
+        writeFile(device, {});
+        const QString alive = QString::number(QCoreApplication::applicationPid());
+        PortList list(folder.path());
+        QSignalSpy changed(&list, &PortList::changed);
+        const auto listed = [&] {
+            for (const PortEntry &e : list.ports())
+                if (e.portName == device)
+                    return true;
+            return false;
+        };
+        QVERIFY(!listed());
+
+        writeFile(folder.filePath(alive + ".port"), device.toUtf8() + "\nIP 7\n");
+        QTRY_VERIFY(listed());
+        QCOMPARE(changed.count(), 1);
+
+        list.setWatching(false);
+        const int scans = list.scanCount();
+        QFile::remove(folder.filePath(alive + ".port"));
+        QTest::qWait(PortList::SettleMs * 3);
+        QCOMPARE(list.scanCount(), scans);
+        QVERIFY(listed());
+
+        list.setWatching(true);
+        QVERIFY(!listed());
+        QCOMPARE(changed.count(), 2);
     }
 };
 

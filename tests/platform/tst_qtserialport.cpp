@@ -140,6 +140,46 @@ private slots:
         link.write("ignored\r"); // writing to a vanished port is silently dropped
         QVERIFY(link.readAll().isEmpty());
     }
+
+    // A phone that talks while no exchange runs: the oldest bytes wait, up to the limit, and the
+    // next exchange gets them in order; after that it gets what follows, never the dropped rest.
+    void talkWhileIdleKeepsTheOldestUpToTheLimit_data()
+    {
+        QTest::addColumn<int>("limit");
+        QTest::addColumn<int>("talked");
+        QTest::newRow("below the limit") << 4000 << 2500;
+        QTest::newRow("exactly the limit") << 4000 << 4000;
+        QTest::newRow("one byte beyond") << 4000 << 4001;
+        QTest::newRow("many times the limit") << 4000 << 40000;
+    }
+    void talkWhileIdleKeepsTheOldestUpToTheLimit()
+    {
+        QFETCH(int, limit);
+        QFETCH(int, talked);
+        Pty pty;
+        QtSerialPortLink link;
+        link.setUnreadLimit(limit);
+        QCOMPARE(link.open(pty.path), int(SerialPort::NoError));
+        QByteArray talk;
+        for (int line = 0; talk.size() < talked; ++line)
+            talk += "chatter " + QByteArray::number(line) + '\n';
+        talk.truncate(talked);
+        // In pieces the pseudo-terminal takes at once, with the event loop running between them.
+        for (qsizetype at = 0; at < talk.size(); at += 1000) {
+            const QByteArray piece = talk.mid(at, 1000);
+            QCOMPARE(::write(pty.master, piece.constData(), piece.size()), ssize_t(piece.size()));
+            QTest::qWait(5);
+        }
+        QTRY_COMPARE(link.unreadBytes() + link.droppedBytes(), qint64(talked));
+        QCOMPARE(link.readAll(), talk.left(limit));
+        QCOMPARE(link.droppedBytes(), qint64(std::max(0, talked - limit)));
+
+        const QByteArray next("nand --getinfo\r\n[0000000A:0000BEEF] :-) ");
+        QCOMPARE(::write(pty.master, next.constData(), next.size()), ssize_t(next.size()));
+        QByteArray got;
+        QTRY_VERIFY((got += link.readAll()).size() >= next.size());
+        QCOMPARE(got, next);
+    }
 };
 
 QTEST_MAIN(TestQtSerialPort)
