@@ -4,9 +4,6 @@
 #include "BuckTeste.h"
 #include "ConsoleExchange.h"
 #include "Database.h"
-#if defined(__GNUC__) && !defined(__clang__)
-// GCC 12 sees a moved-from optional<QString> in the fake's input queue as uninitialised.
-#endif
 #include "FakeDialogs.h"
 #include "SerialPort.h"
 #include "Session.h"
@@ -264,15 +261,6 @@ private slots:
         QCOMPARE(list->count(), 1);
         QVERIFY(list->item(0)->text().endsWith(QStringLiteral(": PASS")));
         QCOMPARE(list->item(0)->data(Qt::UserRole).toBool(), true);
-    }
-
-    void infoBucksPerModel()
-    {
-        const auto same = [](const QString &k) { return k; };
-        QVERIFY(BuckTeste::infoBucks(QStringLiteral("IP 6"), same).contains(QStringLiteral("buck6 = NC")));
-        QVERIFY(BuckTeste::infoBucks(QStringLiteral("IP 6s Plus"), same).contains(QStringLiteral("buck6 = CAMERA")));
-        QVERIFY(BuckTeste::infoBucks(QStringLiteral("IP 8"), same).contains(QStringLiteral("buck9 = CAMERA")));
-        QCOMPARE(BuckTeste::infoBucks(QStringLiteral("IP X"), same), QStringLiteral("\n\n   VAR2"));
     }
 };
 
