@@ -55,6 +55,9 @@ Inicial::Inicial(const ScreenContext &context, ConnectionController &connection,
     ui->ComboAparelhos->setCurrentText(QStringLiteral("IP 7"));
     ui->ComboAparelhosX->setCurrentText(QStringLiteral("IP 7"));
     static_cast<QVBoxLayout *>(ui->FrameMenu->layout())->addStretch();
+    // On a small display a window larger than the frame is scrolled to, never cut off.
+    ui->mdiArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    ui->mdiArea->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
 
     connect(ui->ComboAparelhos, &QComboBox::currentTextChanged, this, &Inicial::selectModel);
     connect(ui->ComboAparelhosX, &QComboBox::currentTextChanged, this, &Inicial::selectModel);
@@ -129,6 +132,10 @@ void Inicial::registerScreen(int botao, const QString &name, const QString &tool
     reg.tooltipKey = tooltipKey;
     reg.factory = std::move(factory);
     reg.testScreen = testScreen;
+    if (botao <= 0) {
+        m_screens.insert(name, reg);
+        return;
+    }
     reg.button = new QPushButton(ui->FrameMenu);
     reg.button->setObjectName(QStringLiteral("Botoes_%1").arg(botao));
     reg.button->setToolTip(m_context.session.Traduz(tooltipKey));
@@ -139,7 +146,7 @@ void Inicial::registerScreen(int botao, const QString &name, const QString &tool
     auto *layout = static_cast<QVBoxLayout *>(ui->FrameMenu->layout());
     int at = 0;
     for (const Registration &other : std::as_const(m_screens))
-        if (other.botao < botao)
+        if (other.button && other.botao < botao)
             ++at;
     layout->insertWidget(at, reg.button);
     connect(reg.button, &QPushButton::clicked, this, [this, name] { openScreen(name); });
@@ -160,11 +167,32 @@ QWidget *Inicial::openScreen(const QString &name)
     QMdiSubWindow *window = ui->mdiArea->addSubWindow(widget);
     window->setAttribute(Qt::WA_DeleteOnClose);
     it->window = window;
-    // Screens open large enough to show their grids, but never beyond the frame.
-    window->resize(window->sizeHint().expandedTo(QSize(960, 640)).boundedTo(ui->mdiArea->viewport()->size()));
-    window->move(0, 0);
+    placeWindow(window);
     window->show();
     return widget;
+}
+
+QRect Inicial::placement(const QSize &wanted, const QSize &minimum, const QSize &area, const QPoint &previous)
+{
+    // As large as the content asks, within the frame; never below what the content needs, so a
+    // screen larger than a small display scrolls in the frame instead of being clipped.
+    const QSize size = wanted.boundedTo(area).expandedTo(minimum);
+    // Each new window a step below and right of the last one, its title bar never hidden; back
+    // to the corner when the step would push it out of the frame.
+    QPoint at = previous.x() < 0 ? QPoint(0, 0) : previous + QPoint(CascadeStep, CascadeStep);
+    if (at.x() + size.width() > area.width() || at.y() + size.height() > area.height())
+        at = QPoint(0, 0);
+    return QRect(at, size);
+}
+
+void Inicial::placeWindow(QMdiSubWindow *window)
+{
+    QPoint previous(-1, -1);
+    for (QMdiSubWindow *other : ui->mdiArea->subWindowList(QMdiArea::CreationOrder))
+        if (other != window && !other->isHidden())
+            previous = other->pos();
+    window->setGeometry(placement(window->sizeHint(), window->minimumSizeHint(), ui->mdiArea->viewport()->size(),
+                                  previous));
 }
 
 QWidget *Inicial::screen(const QString &name) const
@@ -179,6 +207,7 @@ void Inicial::showChildWindow(QWidget *window)
 {
     QMdiSubWindow *sub = ui->mdiArea->addSubWindow(window);
     sub->setAttribute(Qt::WA_DeleteOnClose);
+    placeWindow(sub);
     sub->show();
 }
 
@@ -204,6 +233,8 @@ void Inicial::Traducao_Form_Inicial()
     ui->ComboAparelhosX->setToolTip(ui->ComboAparelhos->toolTip());
     ui->dockConsole->setWindowTitle(s.Traduz(QStringLiteral("Console")));
     for (const Registration &reg : std::as_const(m_screens)) {
+        if (!reg.button)
+            continue;
         reg.button->setToolTip(s.Traduz(reg.tooltipKey));
         reg.button->setText(s.Traduz(reg.tooltipKey));
     }

@@ -434,20 +434,6 @@ private slots:
         QCOMPARE(fileHash(m_path), before);
     }
 
-    void writesOnReadOnlyFileFail()
-    {
-        if (!chmodIsEnforced())
-            QSKIP("running as root: file permissions do not stop writes");
-        const QByteArray before = fileHash(m_path);
-        QFile::setPermissions(m_path, QFileDevice::ReadOwner | QFileDevice::ReadGroup);
-        {
-            Database db(m_path);
-            expectWritesRefused(db);
-        }
-        QFile::setPermissions(m_path, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
-        QCOMPARE(fileHash(m_path), before);
-    }
-
     void writeWhileAnotherProgramHoldsTheLock()
     {
         RawConnection other(m_path);
