@@ -17,7 +17,7 @@ namespace Screens {
 void registerAll(Inicial &inicial, Shell &shell)
 {
     // A screen that opens another goes through the main window, so each stays one instance.
-    const auto opener = [&inicial](const QString &name) { inicial.openScreen(name); };
+    const auto opener = [&inicial](const QString &name) { return inicial.openScreen(name); };
     inicial.registerScreen(2, QStringLiteral("Master"), QStringLiteral("Modo Comandos e Comparador"),
                            [&inicial, &shell](const ScreenContext &ctx) -> QWidget * {
                                return new Master(ctx, shell, [&inicial](QWidget *w) { inicial.showChildWindow(w); });
@@ -37,7 +37,8 @@ void registerAll(Inicial &inicial, Shell &shell)
                                return new xIdioma(ctx.session, ctx.dialogs, [&inicial] { inicial.closeTestScreens(); });
                            },
                            false);
-    inicial.registerScreen(13, QStringLiteral("BuckTeste"), QStringLiteral("Buck Teste"),
+    // No menu element of its own: it opens from the Buck / Ldo screen's Botao2.
+    inicial.registerScreen(0, QStringLiteral("BuckTeste"), QStringLiteral("Buck Teste"),
                            [](const ScreenContext &ctx) -> QWidget * { return new BuckTeste(ctx); });
     // The chip readouts have no menu element: the IC and display screens open them by name.
     inicial.registerScreen(0, QStringLiteral("Tigris"), QStringLiteral("Tigris"),

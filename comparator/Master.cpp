@@ -10,11 +10,16 @@
 #include "Shell.h"
 #include "fmHelp.h"
 #include "zAjustes.h"
+#include "ConsoleFile.h"
 #include "ConsoleTextEdit.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QLineEdit>
+#include <QShortcut>
+#include <QTextCursor>
+#include <QTextDocument>
 
 Master::Master(const ScreenContext &ctx, Shell &shell, std::function<void(QWidget *)> showWindow,
                QWidget *parent)
@@ -61,6 +66,29 @@ Master::Master(const ScreenContext &ctx, Shell &shell, std::function<void(QWidge
     connect(ui->Command2, &QPushButton::clicked, this, &Master::addMaskText);
     connect(ui->Command3, &QPushButton::clicked, this, &Master::openAdjustments);
     connect(ui->HScroll1, &QScrollBar::valueChanged, this, &Master::setBorder);
+    connect(ui->btSalvarConsole, &QPushButton::clicked, this, &Master::saveConsole);
+
+    // Finding in the console, as in any terminal window.
+    auto *find = new QShortcut(QKeySequence::Find, this, this, &Master::showFindBar);
+    find->setContext(Qt::WidgetWithChildrenShortcut);
+    auto *next = new QShortcut(QKeySequence::FindNext, this, this, [this] { findInConsole(false); });
+    next->setContext(Qt::WidgetWithChildrenShortcut);
+    auto *previous = new QShortcut(QKeySequence::FindPrevious, this, this, [this] { findInConsole(true); });
+    previous->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(ui->btProximo, &QToolButton::clicked, this, [this] { findInConsole(false); });
+    connect(ui->btAnterior, &QToolButton::clicked, this, [this] { findInConsole(true); });
+    connect(ui->txtLocalizar, &QLineEdit::textEdited, this, [this] {
+        // Typing searches from where the console's cursor stands, so the match grows in place.
+        QTextCursor at = ui->txtConsole->textCursor();
+        at.setPosition(at.selectionStart());
+        ui->txtConsole->setTextCursor(at);
+        findInConsole(false);
+    });
+    ui->txtLocalizar->installEventFilter(this);
+
+    // Up and Down in the command field walk the commands sent, not the stored command list.
+    ui->txtComandos->installEventFilter(this);
+    ui->txtComandos->lineEdit()->installEventFilter(this);
 
     // A connection validated while the screen is open lets it send (unless it waits); the flag
     // alone is "1" after the empty first answer of a port where no phone answers.
@@ -115,6 +143,10 @@ void Master::retranslate()
     ui->btReiniciar->setText(Traduz(QStringLiteral("Reiniciar Dispositivo")));
     ui->btReiniciar->setToolTip(Traduz(QStringLiteral("Sair do Modo Purple")));
     ui->btLimpar->setText(Traduz(QStringLiteral("Limpar")));
+    ui->btSalvarConsole->setText(Traduz(QStringLiteral("Salvar console")));
+    ui->txtLocalizar->setPlaceholderText(Traduz(QStringLiteral("Localizar no console (Ctrl+F)")));
+    ui->btAnterior->setToolTip(Traduz(QStringLiteral("Anterior")));
+    ui->btProximo->setToolTip(Traduz(QStringLiteral("Próximo")));
     ui->ckLimpar->setText(Traduz(QStringLiteral("Auto")));
     ui->ckLimpar->setToolTip(Traduz(QStringLiteral("Limpar dados após comando")));
     ui->btHelp->setText(Traduz(QStringLiteral("Help")));
@@ -181,6 +213,7 @@ void Master::send()
         if (::AutoComparador::isLongAnswerCommand(command))
             session().setLongAnswer(true);
         sendForThisScreen(command);
+        session().commandHistory().add(command);
 
         if (::AutoComparador::isButtonTestCommand(command)) {
             // The result shows on the phone; the test runs until it is told to stop.
@@ -395,7 +428,77 @@ void Master::showWindow(QWidget *window)
 
 void Master::setBorder(int value)
 {
-    // The two answer boxes share their row; the scroll bar says how much of it the console gets.
+    // The two answer boxes share their row; the scroll bar's value is the console's share in
+    // per cent, the rest is the comparator's.
     ui->boxesRow->setStretch(0, value);
-    ui->boxesRow->setStretch(1, ui->HScroll1->maximum() + ui->HScroll1->minimum() - value);
+    ui->boxesRow->setStretch(1, 100 - value);
+}
+
+void Master::saveConsole()
+{
+    const QString text = ui->txtConsole->rawText();
+    if (text.isEmpty())
+        return;
+    const QString title = Traduz(QStringLiteral("Salvar console"));
+    const auto path = dialogs().saveFileName(
+        this, title, QDir(QFileInfo(session().configPath()).absolutePath())
+                         .filePath(ConsoleFile::suggestedName(session().modelo(), QDateTime::currentDateTime())));
+    if (!path)
+        return;
+    const QString error = ConsoleFile::save(*path, text);
+    if (!error.isEmpty())
+        dialogs().critical(this, title,
+                           Traduz(QStringLiteral("Não foi possível gravar o arquivo")) + QStringLiteral(":\n") + *path
+                               + QStringLiteral("\n") + error);
+}
+
+void Master::showFindBar()
+{
+    ui->FrameLocalizar->setVisible(true);
+    ui->txtLocalizar->setFocus(Qt::ShortcutFocusReason);
+    ui->txtLocalizar->selectAll();
+}
+
+bool Master::findInConsole(bool backward)
+{
+    const QString text = ui->txtLocalizar->text();
+    if (text.isEmpty())
+        return false;
+    const QTextDocument::FindFlags flags = backward ? QTextDocument::FindBackward : QTextDocument::FindFlags();
+    bool found = ui->txtConsole->find(text, flags);
+    if (!found) {
+        // Past the last match: go round from the other end once.
+        QTextCursor from = ui->txtConsole->textCursor();
+        from.movePosition(backward ? QTextCursor::End : QTextCursor::Start);
+        ui->txtConsole->setTextCursor(from);
+        found = ui->txtConsole->find(text, flags);
+    }
+    ui->txtLocalizar->setStyleSheet(found ? QString() : QStringLiteral("QLineEdit { background: #ffd0d0; }"));
+    return found;
+}
+
+bool Master::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress)
+        return TestScreen::eventFilter(watched, event);
+    const auto *key = static_cast<QKeyEvent *>(event);
+    const bool plain = !(key->modifiers() & (Qt::AltModifier | Qt::ControlModifier));
+    if (watched == ui->txtLocalizar) {
+        if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
+            findInConsole(key->modifiers().testFlag(Qt::ShiftModifier));
+            return true;
+        }
+        if (key->key() == Qt::Key_Escape) {
+            ui->FrameLocalizar->setVisible(false);
+            ui->txtConsole->setFocus();
+            return true;
+        }
+    } else if ((watched == ui->txtComandos || watched == ui->txtComandos->lineEdit()) && plain
+               && (key->key() == Qt::Key_Up || key->key() == Qt::Key_Down)) {
+        CommandHistory &history = session().commandHistory();
+        const QString typed = ui->txtComandos->currentText();
+        ui->txtComandos->setEditText(key->key() == Qt::Key_Up ? history.older(typed) : history.newer(typed));
+        return true;
+    }
+    return TestScreen::eventFilter(watched, event);
 }

@@ -34,6 +34,8 @@ public:
     ~Master() override;
 
     void retranslate() override;
+    // The console and the recorded answer side by side, each wide enough for a full line.
+    QSize sizeHint() const override { return QSize(1180, 700).expandedTo(TestScreen::sizeHint()); }
 
     // Decides whether the mark that the answer matches the recorded one shows.
     void AutoComparador();
@@ -54,6 +56,12 @@ public:
     void maskRecordedAnswer();  // Command1
     void addMaskText();         // Command2
     void openAdjustments();     // Command3
+    // btSalvarConsole: the console text, exactly as received, into a file the user picks.
+    void saveConsole();
+    // Ctrl+F shows the find bar; Enter/F3 find the next, Shift+Enter/Shift+F3 the previous
+    // occurrence in the console, ignoring letter case and wrapping at the ends.
+    void showFindBar();
+    bool findInConsole(bool backward = false);
 
     // The help file of a language, beside the program.
     static QString helpPdfName(quint8 idioma);
@@ -61,6 +69,9 @@ public:
     bool waiting() const { return m_waiting; }
     fmHelp *helpWindow() const;
     zAjustes *adjustmentsWindow() const;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void handOver(const QString &answer);

@@ -5,6 +5,7 @@
 
 #include <QPushButton>
 
+#include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
 
@@ -48,4 +49,12 @@ std::optional<QString> QtDialogs::input(QWidget *parent, const QString &title, c
     if (!ok)
         return std::nullopt;
     return text;
+}
+
+std::optional<QString> QtDialogs::saveFileName(QWidget *parent, const QString &title, const QString &suggested)
+{
+    const QString path = QFileDialog::getSaveFileName(parent, title, suggested);
+    if (path.isEmpty())
+        return std::nullopt;
+    return path;
 }

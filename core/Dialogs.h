@@ -23,6 +23,8 @@ public:
     // An input box; nothing when cancelled.
     virtual std::optional<QString> input(QWidget *parent, const QString &title, const QString &prompt,
                                          const QString &initial = {}) = 0;
+    // A file name to save to, starting at `suggested`; nothing when cancelled.
+    virtual std::optional<QString> saveFileName(QWidget *parent, const QString &title, const QString &suggested) = 0;
 };
 
 class Session;
@@ -39,6 +41,7 @@ public:
     bool question(QWidget *parent, const QString &title, const QString &text) override;
     std::optional<QString> input(QWidget *parent, const QString &title, const QString &prompt,
                                  const QString &initial = {}) override;
+    std::optional<QString> saveFileName(QWidget *parent, const QString &title, const QString &suggested) override;
 
 private:
     const Session *m_session = nullptr;

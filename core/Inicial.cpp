@@ -55,6 +55,9 @@ Inicial::Inicial(const ScreenContext &context, ConnectionController &connection,
     ui->ComboAparelhos->setCurrentText(QStringLiteral("IP 7"));
     ui->ComboAparelhosX->setCurrentText(QStringLiteral("IP 7"));
     static_cast<QVBoxLayout *>(ui->FrameMenu->layout())->addStretch();
+    // On a small display a window larger than the frame is scrolled to, never cut off.
+    ui->mdiArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    ui->mdiArea->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
 
     connect(ui->ComboAparelhos, &QComboBox::currentTextChanged, this, &Inicial::selectModel);
     connect(ui->ComboAparelhosX, &QComboBox::currentTextChanged, this, &Inicial::selectModel);
@@ -133,8 +136,8 @@ void Inicial::registerScreen(int botao, const QString &name, const QString &tool
     reg.tooltipKey = tooltipKey;
     reg.factory = std::move(factory);
     reg.testScreen = testScreen;
-    if (botao == 0) {
-        // Element 0: a screen that other screens open by name, with no menu button of its own.
+    if (botao <= 0) {
+        // No menu button: a screen that other screens open by name.
         m_screens.insert(name, reg);
         return;
     }
@@ -169,11 +172,32 @@ QWidget *Inicial::openScreen(const QString &name)
     QMdiSubWindow *window = ui->mdiArea->addSubWindow(widget);
     window->setAttribute(Qt::WA_DeleteOnClose);
     it->window = window;
-    // Screens open large enough to show their grids, but never beyond the frame.
-    window->resize(window->sizeHint().expandedTo(QSize(960, 640)).boundedTo(ui->mdiArea->viewport()->size()));
-    window->move(0, 0);
+    placeWindow(window);
     window->show();
     return widget;
+}
+
+QRect Inicial::placement(const QSize &wanted, const QSize &minimum, const QSize &area, const QPoint &previous)
+{
+    // As large as the content asks, within the frame; never below what the content needs, so a
+    // screen larger than a small display scrolls in the frame instead of being clipped.
+    const QSize size = wanted.boundedTo(area).expandedTo(minimum);
+    // Each new window a step below and right of the last one, its title bar never hidden; back
+    // to the corner when the step would push it out of the frame.
+    QPoint at = previous.x() < 0 ? QPoint(0, 0) : previous + QPoint(CascadeStep, CascadeStep);
+    if (at.x() + size.width() > area.width() || at.y() + size.height() > area.height())
+        at = QPoint(0, 0);
+    return QRect(at, size);
+}
+
+void Inicial::placeWindow(QMdiSubWindow *window)
+{
+    QPoint previous(-1, -1);
+    for (QMdiSubWindow *other : ui->mdiArea->subWindowList(QMdiArea::CreationOrder))
+        if (other != window && !other->isHidden())
+            previous = other->pos();
+    window->setGeometry(placement(window->sizeHint(), window->minimumSizeHint(), ui->mdiArea->viewport()->size(),
+                                  previous));
 }
 
 QWidget *Inicial::screen(const QString &name) const
@@ -188,6 +212,7 @@ void Inicial::showChildWindow(QWidget *window)
 {
     QMdiSubWindow *sub = ui->mdiArea->addSubWindow(window);
     sub->setAttribute(Qt::WA_DeleteOnClose);
+    placeWindow(sub);
     sub->show();
 }
 

@@ -29,7 +29,7 @@ public:
     ~Inicial() override;
 
     // Adds menu element `botao` with its tooltip key; `testScreen` screens are closed when the
-    // language changes.
+    // language changes. Element 0 adds no button: the screen opens by name from another screen.
     void registerScreen(int botao, const QString &name, const QString &tooltipKey, ScreenFactory factory,
                         bool testScreen = true);
 
@@ -52,6 +52,12 @@ public:
 
     void fillPorts();
 
+    // Where a new subwindow goes: its content's size within the frame's `area` (never below
+    // `minimum`), one cascade step from the window opened before it (`previous`, negative when
+    // there is none).
+    static constexpr int CascadeStep = 28;
+    static QRect placement(const QSize &wanted, const QSize &minimum, const QSize &area, const QPoint &previous);
+
 protected:
     void closeEvent(QCloseEvent *event) override;
 
@@ -67,6 +73,7 @@ private:
     };
 
     void wireConnection();
+    void placeWindow(QMdiSubWindow *window);
     void selectModel(const QString &modelo);
     void paintConnectionState();
 

@@ -3,6 +3,8 @@
 // screen identifier, live echo, open flags and the selected model. One instance is created
 // in main() and handed to whoever needs it, so tests can run several sessions side by side.
 
+#include "CommandHistory.h"
+
 #include <QDateTime>
 #include <QMap>
 #include <QObject>
@@ -52,6 +54,9 @@ public:
     bool longAnswer() const { return m_longAnswer; }
     void setLongAnswer(bool on) { m_longAnswer = on; }
 
+    // The console's sent commands, kept while the program runs even when the console is closed.
+    CommandHistory &commandHistory() { return m_commandHistory; }
+
     // "0" disconnected, "2" connecting, "3" an exchange running, "1" connected and idle.
     QString connectionFlag() const { return m_connectionFlag; }
     void setConnectionFlag(const QString &flag);
@@ -89,6 +94,7 @@ private:
     QString m_screenId = QStringLiteral("0");
     bool m_liveEcho = false;
     bool m_longAnswer = false;
+    CommandHistory m_commandHistory;
     QString m_connectionFlag = QStringLiteral("0");
     bool m_connectionValidated = false;
     QString m_modelo = QStringLiteral("IP 7");

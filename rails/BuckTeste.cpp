@@ -3,6 +3,7 @@
 #include "ConsoleExchange.h"
 #include "Database.h"
 #include "Dialogs.h"
+#include "RailVerdictModel.h"
 #include "Session.h"
 #include "ui_BuckTeste.h"
 
@@ -12,9 +13,6 @@
 namespace {
 
 const QString ScreenId = QStringLiteral("13");
-// The verdict colours of the tool: pale green for a passed check, pale yellow for a failed one.
-const QColor PassColour(0xC0, 0xFF, 0xC0);
-const QColor FailColour(0xFF, 0xFF, 0x80);
 constexpr int BarraSteps = 100;
 
 } // namespace
@@ -80,16 +78,27 @@ void BuckTeste::retranslate()
 
 void BuckTeste::btBl(int index)
 {
-    if (!session().connectedAndIdle())
+    // A press that sends nothing says why, beside the buttons.
+    if (!session().connectedAndIdle()) {
+        ui->lbStatus->setText(Traduz(session().connectionFlag() == QLatin1String("0") ? QStringLiteral("Desconectado")
+                                                                                      : QStringLiteral("Aguarde...")));
         return;
+    }
+    ui->lbStatus->clear();
     ui->txtComparador->clear(); // the comparator stays empty until the answer names its command
     QString command;
     if (index == TesteIndex) {
         const QString number = ui->Combo1->currentText().remove(u' ');
         bool ok = false;
         const int n = number.toInt(&ok);
-        if (!ok || n < 1 || n > 99)
+        if (!ok || n < 1 || n > 99) {
+            // The lists would otherwise go on showing the previous buck's result as if it were this one's.
+            ui->txtDados->clear();
+            ui->ListView->clear();
+            ui->ListViewComparador->clear();
+            ui->lbStatus->setText(Traduz(QStringLiteral("Número do buck inválido (1 a 99)")));
             return;
+        }
         if (!dialogs().question(this, Traduz(QStringLiteral("Buck Teste")),
                                 Traduz(QStringLiteral("Esse processo leva aproximadamente 50 segundos, deseja continuar?"))))
             return;
@@ -129,7 +138,7 @@ void BuckTeste::fill(QListWidget *list, const QString &answer)
     for (const BuckLine &line : lines) {
         auto *item = new QListWidgetItem(line.text, list);
         if (m_modo != 1) {
-            item->setBackground(line.passed ? PassColour : FailColour);
+            item->setBackground(line.passed ? RailVerdictModel::PassColour : RailVerdictModel::FailColour);
             item->setIcon(style()->standardIcon(line.passed ? QStyle::SP_DialogApplyButton
                                                             : QStyle::SP_MessageBoxWarning));
             item->setData(Qt::UserRole, line.passed);

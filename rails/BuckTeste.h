@@ -25,6 +25,8 @@ public:
     ~BuckTeste() override;
 
     void retranslate() override;
+    // Both buck lists side by side with their notes below.
+    QSize sizeHint() const override { return QSize(820, 560).expandedTo(TestScreen::sizeHint()); }
 
     // btBl(index): sends the plain read or the check of the buck in Combo1.
     void btBl(int index);

@@ -3,12 +3,14 @@
 #include "ConsoleExchange.h"
 #include "Database.h"
 #include "Dialogs.h"
+#include "RailVerdictModel.h"
 #include "Session.h"
 #include "ui_RailScreen.h"
 
 #include <QHeaderView>
 #include <QSqlQueryModel>
 #include <QSqlRecord>
+#include <tuple>
 
 namespace {
 
@@ -37,7 +39,9 @@ RailScreen::RailScreen(const ScreenContext &context, const RailScreenKind &kind,
     ui->setupUi(this);
     m_data1 = new QSqlQueryModel(this);
     m_data1->setObjectName(QStringLiteral("Data1"));
-    ui->grid->setModel(m_data1);
+    auto *coloured = new RailVerdictModel(this);
+    coloured->setSourceModel(m_data1);
+    ui->grid->setModel(coloured);
     ui->grid->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     ui->Barra->setRange(0, BarraSteps);
 
@@ -121,10 +125,13 @@ void RailScreen::retranslate()
     ui->lbDecimais->setText(Traduz(QStringLiteral("Decimais")));
     ui->lbUnidades->setText(QStringLiteral(": V / mA"));
     ui->lbRealizando->setText(Traduz(QStringLiteral("Realizando Leitura...")));
-    for (QPushButton *b : {ui->btGravar_1, ui->btGravar_2, ui->btGravar_3})
-        b->setText(Traduz(QStringLiteral("Gravar")));
-    for (QPushButton *b : {ui->btExcluir_1, ui->btExcluir_2, ui->btExcluir_3})
-        b->setText(Traduz(QStringLiteral("Excluir")));
+    // The buttons carry the number of the "Gravação" column they act on.
+    const QList<QPushButton *> gravar = {ui->btGravar_1, ui->btGravar_2, ui->btGravar_3};
+    const QList<QPushButton *> excluir = {ui->btExcluir_1, ui->btExcluir_2, ui->btExcluir_3};
+    for (int slot = 1; slot <= 3; ++slot) {
+        gravar[slot - 1]->setText(Traduz(QStringLiteral("Gravar")) + u' ' + QString::number(slot));
+        excluir[slot - 1]->setText(Traduz(QStringLiteral("Excluir")) + u' ' + QString::number(slot));
+    }
     QStringList notes;
     for (const QString &key : m_kind.noteKeys)
         notes << Traduz(key);
@@ -145,22 +152,34 @@ void RailScreen::retranslate()
     }
 }
 
-void RailScreen::setScreenOpener(std::function<void(const QString &)> opener,
+void RailScreen::setScreenOpener(std::function<QWidget *(const QString &)> opener,
                                   const std::function<bool(const QString &)> &available)
 {
     m_opener = std::move(opener);
-    const QList<QPair<QPushButton *, QString>> buttons = {
-        {ui->Botao1, QStringLiteral("VCores")}, {ui->Botao2, QStringLiteral("BuckTeste")}, {ui->Botao3, QStringLiteral("Nand")}};
-    for (const auto &[button, screen] : buttons) {
+    // Botao3 shows the NAND rails, which are the VCore screen's rails of the NAND chip.
+    const QList<std::tuple<QPushButton *, QString, QString>> buttons = {
+        {ui->Botao1, QStringLiteral("VCores"), QString()},
+        {ui->Botao2, QStringLiteral("BuckTeste"), QString()},
+        {ui->Botao3, QStringLiteral("VCores"), QStringLiteral("NAND")}};
+    for (const auto &[button, screen, chip] : buttons) {
         // A screen that is not part of the program gets no button: nothing that does nothing.
         button->setVisible(m_opener && (!available || available(screen)));
         disconnect(button, &QPushButton::clicked, nullptr, nullptr);
-        // A copy: clang 14 cannot capture a structured binding.
-        connect(button, &QPushButton::clicked, this, [this, screen = screen] {
-            if (m_opener)
-                m_opener(screen);
+        // Copies: clang 14 cannot capture a structured binding.
+        connect(button, &QPushButton::clicked, this, [this, screen = screen, chip = chip] {
+            if (!m_opener)
+                return;
+            auto *opened = qobject_cast<RailScreen *>(m_opener(screen));
+            if (opened && !chip.isEmpty())
+                opened->showChip(chip);
         });
     }
+}
+
+void RailScreen::showChip(const QString &chip)
+{
+    if (m_kind.chipFilter)
+        ui->cbICs->setCurrentText(chip);
 }
 
 RailSettings RailScreen::settings() const
@@ -360,7 +379,8 @@ void RailScreen::gravar(int slot)
 {
     if (!session().connectedAndIdle() || !ui->btExecutaLeitura->isEnabled())
         return;
-    if (!dialogs().question(this, Traduz(QStringLiteral("Gravar")), Traduz(QStringLiteral("Deseja salvar?"))))
+    if (!dialogs().question(this, Traduz(QStringLiteral("Gravar")),
+                            Traduz(QStringLiteral("Deseja salvar?")) + slotName(slot)))
         return;
     if (!m_db->recordReadings(slot, gridFilter()))
         storeFailed();
@@ -371,11 +391,17 @@ void RailScreen::gravar(int slot)
 void RailScreen::excluir(int slot)
 {
     if (!dialogs().question(this, Traduz(QStringLiteral("Excluir")),
-                            Traduz(QStringLiteral("Deseja excluir os dados gravados?"))))
+                            Traduz(QStringLiteral("Deseja excluir os dados gravados?")) + slotName(slot)))
         return;
     if (!m_db->clearRecordings(slot, gridFilter()))
         storeFailed();
     MontaConsultaGrade();
+}
+
+QString RailScreen::slotName(int slot) const
+{
+    // Three buttons ask the same question: the answer must say which column it touches.
+    return QStringLiteral("\n\n") + Traduz(QStringLiteral("Gravação")) + u' ' + QString::number(slot);
 }
 
 void RailScreen::storeFailed()

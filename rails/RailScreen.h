@@ -43,6 +43,8 @@ public:
     ~RailScreen() override;
 
     void retranslate() override;
+    // Wide enough for the seven grid columns side by side, tall enough for a model's rails.
+    QSize sizeHint() const override { return QSize(900, 640).expandedTo(TestScreen::sizeHint()); }
 
     // The read button's action, also started by the decimals and chip choices.
     void ExecutaLeitura();
@@ -73,10 +75,13 @@ public:
     bool readingsSaved() const { return m_saved; }
     RailSettings settings() const;
 
-    // Opens another screen by its name ("VCores", "BuckTeste", "Nand"); Botao1..3 on Buck/LDO.
-    // Only the screens `available` accepts get their button.
-    void setScreenOpener(std::function<void(const QString &screen)> opener,
+    // Opens another screen by its name and returns it: Botao1 the VCore screen, Botao2 the buck
+    // self test, Botao3 the VCore screen on the NAND rails. Only the screens `available` accepts
+    // get their button.
+    void setScreenOpener(std::function<QWidget *(const QString &screen)> opener,
                          const std::function<bool(const QString &screen)> &available = {});
+    // Chooses a chip in cbICs, as the technician would (screens with the chip filter only).
+    void showChip(const QString &chip);
 
 private:
     MasterFilter gridFilter() const;
@@ -86,6 +91,7 @@ private:
     void finishWaiting();
     void restartIfIdle();
     void storeFailed();
+    QString slotName(int slot) const;
 
     std::unique_ptr<Ui::RailScreen> ui;
     RailScreenKind m_kind;
@@ -98,5 +104,5 @@ private:
     bool m_reading = false;
     bool m_saved = false;
     bool m_loading = true;
-    std::function<void(const QString &)> m_opener;
+    std::function<QWidget *(const QString &)> m_opener;
 };

@@ -13,6 +13,7 @@ public:
     QStringList shown;              // "MSG_KEY", "info:title|text", "critical:title|text", "question:title|text"
     std::deque<bool> answers;       // next Yes/No answers; Yes when empty
     std::deque<std::optional<QString>> inputs; // next input answers; cancelled when empty
+    std::deque<QString> saveNames;  // next file names to save to; cancelled when empty
 
     void Mensagem(QWidget *, const QString &key, quint8, const QString &) override { shown << key; }
     void information(QWidget *, const QString &title, const QString &text) override
@@ -42,6 +43,15 @@ public:
         }
         const QString a = *inputs.front();
         inputs.pop_front();
+        return a;
+    }
+    std::optional<QString> saveFileName(QWidget *, const QString &title, const QString &) override
+    {
+        shown << QStringLiteral("save:") + title;
+        if (saveNames.empty())
+            return std::nullopt;
+        const QString a = saveNames.front();
+        saveNames.pop_front();
         return a;
     }
 };

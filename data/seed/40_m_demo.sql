@@ -1,6 +1,6 @@
 -- Demo masking texts: the serial numbers and NAND UIDs of the simulated boards, so that
 -- recorded answers carry "xxxxx®" in their place. Illustrative values; written by
--- tests/comparator/tst_demodados (VEKTO_WRITE_DEMO_SEEDS=data/seed), which also checks them.
+-- vekto-demoseeds; the comparator tests check them.
 INSERT INTO M (String) VALUES ('F17E582E8E84');
 INSERT INTO M (String) VALUES ('F17BB2870AE6');
 INSERT INTO M (String) VALUES ('F17A03BA8777');

@@ -13,6 +13,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFrame>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
@@ -105,6 +106,11 @@ private slots:
     void helpWindowShowsRecordedHelp();
     void restartAsksFirst();
     void borderScrollBar();
+    void saveConsoleKeepsEveryCharacter();
+    void findInConsole_data();
+    void findInConsole();
+    void commandHistory_data();
+    void commandHistory();
 };
 
 void TestMaster::recordThenReopen()
@@ -476,6 +482,8 @@ void TestMaster::borderScrollBar()
     auto *bar = rig.child<QScrollBar>("HScroll1");
     QCOMPARE(bar->value(), bar->maximum());
     QVERIFY(rig.console()->width() > rig.recorded()->width());
+    // Even at its narrowest the recorded answer keeps a readable share of the row.
+    QVERIFY(rig.recorded()->width() * 3 > rig.console()->width());
     bar->setValue(bar->minimum());
     QApplication::processEvents();
     QVERIFY(rig.console()->width() < rig.recorded()->width());
@@ -485,6 +493,102 @@ void TestMaster::borderScrollBar()
     QApplication::processEvents();
     QVERIFY(rig.console()->height() > before);
     QVERIFY(bar->geometry().top() > rig.console()->geometry().bottom());
+}
+
+void TestMaster::saveConsoleKeepsEveryCharacter()
+{
+    Rig rig;
+    const QString received = fixture::consoleAnswer(Command, {QStringLiteral("Größe: 64GB \uFFFD\x1b"),
+                                                              QStringLiteral("lone\rCR")});
+    rig.console()->setRawText(received);
+    const QString path = rig.dir.filePath(QStringLiteral("sent-to-support.txt"));
+    rig.dialogs.saveNames = {path};
+    rig.screen->saveConsole();
+    QFile saved(path);
+    QVERIFY(saved.open(QIODevice::ReadOnly));
+    QCOMPARE(saved.readAll(), received.toUtf8());
+
+    // Cancelled: nothing written; an unwritable place: said so, the console kept.
+    rig.screen->saveConsole();
+    rig.dialogs.saveNames = {rig.dir.filePath(QStringLiteral("no/such/folder/x.txt"))};
+    rig.screen->saveConsole();
+    QCOMPARE(rig.dialogs.shown.filter(QStringLiteral("save:")).size(), 3);
+    QCOMPARE(rig.dialogs.shown.filter(QStringLiteral("critical:")).size(), 1);
+    QCOMPARE(rig.console()->rawText(), received);
+}
+
+void TestMaster::findInConsole_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QList<bool>>("backward"); // one search per entry
+    QTest::addColumn<QList<int>>("lines");     // the line of each match, -1 for none
+    const QList<bool> f{false}, ff{false, false}, fff{false, false, false};
+    QTest::newRow("other case") << "toshiba" << f << QList<int>{2};
+    QTest::newRow("next wraps round") << "size" << fff << QList<int>{3, 5, 3};
+    QTest::newRow("previous goes back from the end") << "SIZE" << QList<bool>{true, true} << QList<int>{5, 3};
+    QTest::newRow("absent") << "hynix" << ff << QList<int>{-1, -1};
+}
+
+void TestMaster::findInConsole()
+{
+    QFETCH(QString, text);
+    QFETCH(QList<bool>, backward);
+    QFETCH(QList<int>, lines);
+    Rig rig;
+    rig.console()->setRawText(fixture::consoleAnswer(
+        Command, {QStringLiteral("Vendor: TOSHIBA"), QStringLiteral("Size: 64GB"), QStringLiteral("vendor ok"),
+                  QStringLiteral("Page size: 16K")}));
+    auto *field = rig.child<QLineEdit>("txtLocalizar");
+    rig.screen->showFindBar();
+    QVERIFY(!rig.child<QFrame>("FrameLocalizar")->isHidden());
+    field->setText(text);
+    for (int i = 0; i < backward.size(); ++i) {
+        const bool found = rig.screen->findInConsole(backward[i]);
+        QCOMPARE(found, lines[i] >= 0);
+        if (found)
+            QCOMPARE(rig.console()->textCursor().blockNumber(), lines[i]);
+    }
+}
+
+void TestMaster::commandHistory_data()
+{
+    QTest::addColumn<QStringList>("sent");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("keys"); // u: Up, d: Down
+    QTest::addColumn<QStringList>("shown");
+    const QStringList three{"nanduid", "bl -n", "nandsize"};
+    QTest::newRow("up walks back and stops at the oldest") << three << "" << "uuuu"
+                                                           << QStringList{"nandsize", "bl -n", "nanduid", "nanduid"};
+    QTest::newRow("down comes back to what was typed") << three << "nand" << "uudd"
+                                                       << QStringList{"nandsize", "bl -n", "nandsize", "nand"};
+    QTest::newRow("a repeated command once") << QStringList{"Help", "Help", "bl -n"} << "" << "uuu"
+                                             << QStringList{"bl -n", "Help", "Help"};
+    QTest::newRow("nothing sent yet") << QStringList{} << "bl" << "ud" << QStringList{"bl", "bl"};
+}
+
+void TestMaster::commandHistory()
+{
+    QFETCH(QStringList, sent);
+    QFETCH(QString, typed);
+    QFETCH(QString, keys);
+    QFETCH(QStringList, shown);
+    Rig rig;
+    for (const QString &command : sent)
+        rig.sendAndAnswer(command, {QStringLiteral("ok")});
+    auto *field = rig.child<QComboBox>("txtComandos");
+    rig.type(typed);
+    QStringList seen;
+    for (const QChar key : keys) {
+        QTest::keyClick(field, key == u'u' ? Qt::Key_Up : Qt::Key_Down);
+        seen << field->currentText();
+    }
+    QCOMPARE(seen, shown);
+    // Kept for the session: a console opened again walks the same commands.
+    if (!sent.isEmpty()) {
+        rig.open();
+        QTest::keyClick(rig.child<QComboBox>("txtComandos"), Qt::Key_Up);
+        QCOMPARE(rig.child<QComboBox>("txtComandos")->currentText(), sent.last());
+    }
 }
 
 QTEST_MAIN(TestMaster)

@@ -140,8 +140,6 @@ private slots:
     {
         Rig rig;
         QVERIFY(rig.idle());
-        QCOMPARE(rig.controller.timerValidaPorta().interval(), 300);
-        QCOMPARE(rig.controller.timerVerificaVersao().interval(), 50);
         rig.connectTo();
         QVERIFY(rig.port.isOpen());
         QCOMPARE(rig.port.openedName, QStringLiteral("/dev/fake3"));
@@ -253,15 +251,6 @@ private slots:
         QCOMPARE(rig.controller.validationCount(), 0);
         QVERIFY(rig.exchange.commandField().isEmpty());
         QCOMPARE(caption.last()[0].toString(), QStringLiteral("Pelorin Vekto 1.81"));
-    }
-
-    void silentDeviceOnTheClock()
-    {
-        Rig rig;
-        rig.connectTo();
-        rig.clock.advance(3700); // 500 ms first look, then 11 validation ticks of 300 ms
-        QCOMPARE(rig.messages, (QStringList{"MSG_PORTA_NAO_RESPONDE|3", "MSG_PORTA|3"}));
-        QVERIFY(rig.idle());
     }
 
     // A rejected first command: the model is asked once more from the start routine and at
@@ -380,18 +369,6 @@ private slots:
         rig.connectTo(rule ? QStringLiteral("16") : QStringLiteral("17"));
         QVERIFY(rig.port.isOpen());
         QCOMPARE(rig.session.connectionFlag(), QStringLiteral("2"));
-    }
-
-    void disconnectClick()
-    {
-        Rig rig;
-        rig.answers = {modelAnswer("A1778")};
-        rig.connectTo();
-        rig.clock.advance(5000);
-        QCOMPARE(rig.controller.modelNumber(), QStringLiteral("A1778"));
-        rig.connectTo();
-        expectDisconnected(rig);
-        QVERIFY(rig.controller.modelNumber().isEmpty());
     }
 
     // The cable is pulled while the first answer arrives, or later while idle: the connection

@@ -56,15 +56,6 @@ class TestConsoleExchange : public QObject
     };
 
 private slots:
-    void timersStartStopped()
-    {
-        Rig rig;
-        QVERIFY(!rig.exchange.timer1().isActive());
-        QVERIFY(!rig.exchange.timer2().isActive());
-        QCOMPARE(rig.exchange.timer1().interval(), 500);
-        QCOMPARE(rig.exchange.timer2().interval(), 500);
-    }
-
     void sendWritesCommandWithCarriageReturn()
     {
         Rig rig;

@@ -14,8 +14,11 @@
 #include "xIdioma.h"
 
 #include <QComboBox>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QLabel>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
 #include <memory>
@@ -47,6 +50,8 @@ struct Program
         inicial = std::make_unique<Inicial>(ScreenContext{session, exchange, dialogs}, connection, ports);
         inicial->registerScreen(2, QStringLiteral("Master"), QStringLiteral("Modo Comandos e Comparador"),
                                 [](const ScreenContext &ctx) -> QWidget * { return new DummyScreen(ctx, "Master"); });
+        inicial->registerScreen(0, QStringLiteral("BuckTeste"), QStringLiteral("Buck Teste"),
+                                [](const ScreenContext &ctx) -> QWidget * { return new DummyScreen(ctx, "BuckTeste"); });
         Inicial *window = inicial.get();
         inicial->registerScreen(10, QStringLiteral("xIdioma"), QStringLiteral("Idioma / Language"),
                                 [window](const ScreenContext &ctx) -> QWidget * {
@@ -107,22 +112,6 @@ private slots:
         QCOMPARE(p.find<QComboBox>("ComboAparelhosX")->currentText(), QStringLiteral("IP X"));
     }
 
-    void statusLightFollowsTheConnection()
-    {
-        Program p(m_path);
-        QCOMPARE(p.inicial->status(), QStringLiteral("Branco"));
-        p.port.openError = SerialPort::NoError;
-        p.connection.connectClicked(QStringLiteral("/dev/fake"), QStringLiteral("fake"));
-        QCOMPARE(p.inicial->status(), QStringLiteral("Amarelo"));
-        QCOMPARE(p.find<QLabel>("lbConexao")->text(), QStringLiteral("Conectando"));
-        QCOMPARE(p.find<QPushButton>("Botoes_1")->text(), QStringLiteral("Conectando"));
-        p.session.setConnectionFlag(QStringLiteral("1"));
-        p.connection.connectClicked(QStringLiteral("/dev/fake"), QStringLiteral("fake"));
-        QCOMPARE(p.inicial->status(), QStringLiteral("Branco"));
-        QCOMPARE(p.find<QPushButton>("Botoes_1")->text(), QStringLiteral("Conectar"));
-        QCOMPARE(p.find<QLabel>("lbConexao")->text(), QStringLiteral("Desconectado"));
-    }
-
     // A port where no phone answers: the first answer ends empty and the flag is "1" at once,
     // but the button says "Conectando" until the validation gives up.
     void connectButtonWaitsForTheValidation()
@@ -170,6 +159,9 @@ private slots:
         QVERIFY(p.find<QPushButton>("Botoes_2"));
         QVERIFY(p.find<QPushButton>("Botoes_10"));
         QVERIFY(!p.find<QPushButton>("Botoes_5"));
+        QVERIFY(!p.find<QPushButton>("Botoes_0"));
+        QCOMPARE(p.inicial->findChildren<QPushButton *>(QRegularExpression(QStringLiteral("^Botoes_"))).size(), 3);
+        QVERIFY(p.inicial->openScreen(QStringLiteral("BuckTeste"))); // opened by name from another screen
         QCOMPARE(p.find<QPushButton>("Botoes_2")->toolTip(), QStringLiteral("Modo Comandos e Comparador"));
 
         QWidget *first = p.inicial->openScreen(QStringLiteral("Master"));
@@ -177,6 +169,49 @@ private slots:
         QVERIFY(p.session.isOpen(QStringLiteral("Master")));
         QCOMPARE(p.inicial->openScreen(QStringLiteral("Master")), first);
         QVERIFY(!p.inicial->openScreen(QStringLiteral("RFs")));
+    }
+
+    void placement_data()
+    {
+        QTest::addColumn<QSize>("wanted");
+        QTest::addColumn<QSize>("minimum");
+        QTest::addColumn<QPoint>("previous");
+        QTest::addColumn<QRect>("expected");
+        const QPoint none(-1, -1);
+        const int step = Inicial::CascadeStep;
+        // The frame of a 1366 x 768 display is about 1150 x 600.
+        QTest::newRow("first, as asked") << QSize(900, 500) << QSize(300, 200) << none << QRect(0, 0, 900, 500);
+        QTest::newRow("small screen stays small") << QSize(320, 220) << QSize(200, 150) << none << QRect(0, 0, 320, 220);
+        QTest::newRow("cascaded") << QSize(900, 500) << QSize(300, 200) << QPoint(0, 0) << QRect(step, step, 900, 500);
+        QTest::newRow("cascade would leave the frame") << QSize(900, 500) << QSize(300, 200) << QPoint(240, 90)
+                                                       << QRect(0, 0, 900, 500);
+        QTest::newRow("larger than the frame") << QSize(1400, 900) << QSize(300, 200) << none << QRect(0, 0, 1150, 600);
+        QTest::newRow("content needs more than the frame") << QSize(1400, 900) << QSize(1200, 640) << none
+                                                           << QRect(0, 0, 1200, 640);
+    }
+    void placement()
+    {
+        QFETCH(QSize, wanted);
+        QFETCH(QSize, minimum);
+        QFETCH(QPoint, previous);
+        QFETCH(QRect, expected);
+        QCOMPARE(Inicial::placement(wanted, minimum, QSize(1150, 600), previous), expected);
+    }
+
+    void screensCascadeAndScroll()
+    {
+        Program p(m_path);
+        p.inicial->resize(1366, 768);
+        p.inicial->show();
+        QVERIFY(QTest::qWaitForWindowExposed(p.inicial.get()));
+        auto *area = p.inicial->findChild<QMdiArea *>(QStringLiteral("mdiArea"));
+        QVERIFY(p.inicial->openScreen(QStringLiteral("Master")));
+        QVERIFY(p.inicial->openScreen(QStringLiteral("xIdioma")));
+        const QList<QMdiSubWindow *> windows = area->subWindowList(QMdiArea::CreationOrder);
+        QCOMPARE(windows.size(), 2);
+        QCOMPARE(windows[1]->pos() - windows[0]->pos(), QPoint(Inicial::CascadeStep, Inicial::CascadeStep));
+        QCOMPARE(area->horizontalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
+        QCOMPARE(area->verticalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
     }
 
     void languageChange_data()

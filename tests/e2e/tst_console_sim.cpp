@@ -105,6 +105,18 @@ private slots:
                 QVERIFY(!mark->isHidden());
             }
             QVERIFY2(dialogs.shown.isEmpty(), qPrintable(dialogs.shown.join(u'\n')));
+
+            // The console saved for support is judged by the command line as the screen judged it.
+            const QString saved = dir.filePath(QStringLiteral("console.txt"));
+            dialogs.saveNames = {saved};
+            screen.saveConsole();
+            QProcess cli;
+            cli.start(QStringLiteral(VEKTO_BIN_DIR "/vekto-cli"),
+                      {QStringLiteral("judge"), QStringLiteral("compare"), QStringLiteral("--model"), model,
+                       QStringLiteral("--command"), command, QStringLiteral("--answer"), saved,
+                       QStringLiteral("--db"), path});
+            QVERIFY(cli.waitForFinished(60000));
+            QVERIFY2(cli.exitCode() == (mark->isHidden() ? 1 : 0), cli.readAllStandardOutput().constData());
         }
         port.close();
         phone.kill();

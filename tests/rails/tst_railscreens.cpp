@@ -4,15 +4,14 @@
 #include "BuckTeste.h"
 #include "ConsoleExchange.h"
 #include "Database.h"
-#if defined(__GNUC__) && !defined(__clang__)
-// GCC 12 sees a moved-from optional<QString> in the fake's input queue as uninitialised.
-#endif
 #include "FakeDialogs.h"
+#include "RailVerdictModel.h"
 #include "SerialPort.h"
 #include "Session.h"
 #include "VCores.h"
 
 #include <QComboBox>
+#include <QLabel>
 #include <QFile>
 #include <QLabel>
 #include <QListWidget>
@@ -20,6 +19,7 @@
 #include <QSqlQuery>
 #include <QSqlQueryModel>
 #include <QSqlRecord>
+#include <QTableView>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -199,7 +199,9 @@ private slots:
         b.dialogs.answers = {true};
         reopened.excluir(2);
         QCOMPARE(b.leitura(QStringLiteral("PP1V8_SDRAM"), 2), QString());
-        QCOMPARE(b.dialogs.shown.last(), QStringLiteral("question:Excluir|Deseja excluir os dados gravados?"));
+        QCOMPARE(b.dialogs.shown.last(), QStringLiteral("question:Excluir|Deseja excluir os dados gravados?\n\nGravação 2"));
+        QVERIFY(b.dialogs.shown.contains(QStringLiteral("question:Gravar|Deseja salvar?\n\nGravação 2")));
+        QCOMPARE(reopened.findChild<QPushButton *>(QStringLiteral("btGravar_2"))->text(), QStringLiteral("Gravar 2"));
     }
 
     void failingWriteLeavesNoRowHalfWritten()
@@ -267,10 +269,18 @@ private slots:
         QVERIFY(list->count() > 5);
         QCOMPARE(list->item(0)->text(), QStringLiteral("   buck0 voltage: 0.902 V"));
 
+        // A number that cannot be sent clears the previous result and says so.
+        auto *status = screen.findChild<QLabel *>(QStringLiteral("lbStatus"));
         combo->setCurrentText(QStringLiteral("abc"));
         screen.btBl(BuckTeste::TesteIndex);
+        QCOMPARE(list->count(), 0);
+        QCOMPARE(status->text(), QStringLiteral("Número do buck inválido (1 a 99)"));
         combo->setCurrentText(QStringLiteral("100"));
         screen.btBl(BuckTeste::TesteIndex);
+        b.session.setConnectionFlag(QStringLiteral("0"));
+        screen.btBl(BuckTeste::LeituraIndex);
+        QCOMPARE(status->text(), QStringLiteral("Desconectado"));
+        b.session.setConnectionFlag(QStringLiteral("1"));
         combo->setCurrentText(QStringLiteral(" 1"));
         b.dialogs.answers = {false};
         screen.btBl(BuckTeste::TesteIndex); // the 50-second question answered No
@@ -280,19 +290,94 @@ private slots:
         b.port.answers.prepend(simAnswer(QStringLiteral("ip7/buckcheck/1.txt")));
         screen.btBl(BuckTeste::TesteIndex);
         QCOMPARE(b.port.written.last(), QByteArray("buckcheck 12\r"));
+        QVERIFY(status->text().isEmpty());
         b.finishExchange();
         QCOMPARE(list->count(), 1);
         QVERIFY(list->item(0)->text().endsWith(QStringLiteral(": PASS")));
         QCOMPARE(list->item(0)->data(Qt::UserRole).toBool(), true);
     }
 
-    void infoBucksPerModel()
+    // A stored row judged as the command line judges a fresh reading (the tolerance itself is the
+    // rail engine's table).
+    void rowVerdict_data()
     {
-        const auto same = [](const QString &k) { return k; };
-        QVERIFY(BuckTeste::infoBucks(QStringLiteral("IP 6"), same).contains(QStringLiteral("buck6 = NC")));
-        QVERIFY(BuckTeste::infoBucks(QStringLiteral("IP 6s Plus"), same).contains(QStringLiteral("buck6 = CAMERA")));
-        QVERIFY(BuckTeste::infoBucks(QStringLiteral("IP 8"), same).contains(QStringLiteral("buck9 = CAMERA")));
-        QCOMPARE(BuckTeste::infoBucks(QStringLiteral("IP X"), same), QStringLiteral("\n\n   VAR2"));
+        QTest::addColumn<QString>("malha");
+        QTest::addColumn<QString>("refv");
+        QTest::addColumn<QString>("leitura");
+        QTest::addColumn<QString>("porc");
+        QTest::addColumn<int>("expected");
+        const int pass = int(Verdict::Pass), fail = int(Verdict::Fail), none = int(Verdict::None);
+        QTest::newRow("within") << "PP_CPU" << "0.900" << "0.893 V" << "-0,7 %" << pass;
+        QTest::newRow("far below") << "PP_CPU" << "0.900" << "0.714 V" << "-20,6 %" << fail;
+        // "0 %" is what a missing measurement is given: it must not turn green.
+        QTest::newRow("referenced rail not measured") << "PP_GPU" << "0.800" << "Sem Medição*" << "0 %" << fail;
+        QTest::newRow("not measured in English") << "PP_GPU" << "0.800" << "No Measurement*" << "0 %" << fail;
+        QTest::newRow("VAR rail far off") << "PP_SOC_VAR" << "0.800" << "0.500 V" << "-37,5 %" << none;
+        QTest::newRow("VAR2 rail") << "PP_SRAM_VAR2" << "0.800" << "0.500 V" << "-37,5 %" << none;
+        QTest::newRow("not read") << "PP_CPU" << "0.900" << "" << "" << none;
+        QTest::newRow("no reference") << "PP_X" << "" << "0.500 V" << "" << none;
+    }
+    void rowVerdict()
+    {
+        QFETCH(QString, malha);
+        QFETCH(QString, refv);
+        QFETCH(QString, leitura);
+        QFETCH(QString, porc);
+        QFETCH(int, expected);
+        QCOMPARE(int(RailVerdictModel::rowVerdict(malha, refv, leitura, porc)), expected);
+    }
+
+    // The colours reach the grid's reading cells only; the texts stay as written.
+    void gridColoursFollowTheVerdict()
+    {
+        Bench b;
+        b.port.answers << simAnswer(QStringLiteral("ip7/pmuadc-all.txt")).replace("vbuck0: 893.630 mV", "vbuck0: 714.000 mV");
+        VCores screen(b.context);
+        b.read(screen);
+        const QAbstractItemModel *shown = screen.findChild<QTableView *>(QStringLiteral("grid"))->model();
+        QSqlQueryModel *grid = screen.Data1();
+        const QSqlRecord record = grid->record();
+        const auto colour = [&](int row, const char *column) {
+            return shown->data(shown->index(row, record.indexOf(QLatin1String(column))), Qt::BackgroundRole);
+        };
+        int passed = 0;
+        bool sawCpu = false;
+        for (int r = 0; r < grid->rowCount(); ++r) {
+            const QString malha = gridValue(grid, r, QStringLiteral("Malha"));
+            QVERIFY(!colour(r, "Malha").isValid());
+            QCOMPARE(colour(r, "Leitura"), colour(r, "Porc"));
+            if (malha == QLatin1String("PP_CPU")) {
+                sawCpu = true;
+                QCOMPARE(gridValue(grid, r, QStringLiteral("Leitura")), QStringLiteral("0.714 V"));
+                QCOMPARE(gridValue(grid, r, QStringLiteral("Porc")), QStringLiteral("-20,6 %"));
+                QCOMPARE(colour(r, "Leitura").value<QColor>(), RailVerdictModel::FailColour);
+            } else if (colour(r, "Leitura").isValid()) {
+                passed += colour(r, "Leitura").value<QColor>() == RailVerdictModel::PassColour;
+            }
+        }
+        QVERIFY(sawCpu);
+        QVERIFY(passed > 3);
+    }
+
+    void buckLdoButtonsOpenTheirScreens()
+    {
+        Bench b;
+        VCores vcores(b.context);
+        BuckLdo screen(b.context);
+        QStringList opened;
+        screen.setScreenOpener([&](const QString &name) -> QWidget * {
+            opened << name;
+            return name == QLatin1String("VCores") ? &vcores : nullptr;
+        });
+        for (const char *name : {"Botao1", "Botao2", "Botao3"}) {
+            auto *button = screen.findChild<QPushButton *>(QLatin1String(name));
+            QVERIFY(!button->isHidden());
+            button->click();
+        }
+        QCOMPARE(opened, (QStringList{"VCores", "BuckTeste", "VCores"}));
+        QCOMPARE(vcores.findChild<QComboBox *>(QStringLiteral("cbICs"))->currentText(), QStringLiteral("NAND"));
+        for (int r = 0; r < vcores.Data1()->rowCount(); ++r)
+            QVERIFY(gridValue(vcores.Data1(), r, QStringLiteral("Ci")).contains(QStringLiteral("NAND")));
     }
 
     void ip6NoteShownOnce_data()

@@ -1,35 +1,19 @@
-#pragma once
-// The shipped demo recordings, derived from the simulated phone's good boards: for every model
-// and every command of the list, the console text the tool receives from the simulator, with the
-// board's identifying texts (serial numbers, NAND UID) masked as the masking tool would leave
-// them. The seed files data/seed/40_m_demo.sql and 50_dados_demo.sql are written from here and
-// checked against it, so they cannot drift from the simulator's answers.
+// How the demo recordings and masks are derived from the simulated phone, and written as SQL.
+#include "DemoSeeds.h"
 
 #include "AutoComparador.h"
 #include "Board.h"
 #include "ConsoleExchange.h"
-#include "SimCatalog.h"
 
-#include <QList>
 #include <QRegularExpression>
 #include <QSet>
-#include <QStringList>
 #include <QTextStream>
-#include <algorithm>
 
 namespace demo {
 
-struct Recording
-{
-    QString model;
-    QString command;
-    QString console;  // what the console shows after the exchange
-    QString recorded; // the same with the masks applied
-};
-
 // The console text of one exchange with a fresh good board: CR LF, then every byte converted
 // the way the exchange converts the slices it reads.
-inline QString consoleText(const SimModel &model, const QString &command)
+QString consoleText(const SimModel &model, const QString &command)
 {
     Board board(AnswerStore(), model, Profile::Good);
     board.receive(command.toUtf8() + '\r');
@@ -40,7 +24,7 @@ inline QString consoleText(const SimModel &model, const QString &command)
 }
 
 // Texts that tell one board from another: the serial numbers in "syscfg list" and the NAND UID.
-inline QStringList masks()
+QStringList masks()
 {
     static const QRegularExpression syscfg(QStringLiteral("^(?:SrNm|MLB#)\\s+(\\S+)"),
                                            QRegularExpression::MultilineOption);
@@ -58,7 +42,7 @@ inline QStringList masks()
     return AutoComparador::longestFirst(QStringList(found.begin(), found.end()));
 }
 
-inline QList<Recording> recordings(const QStringList &commands, const QStringList &maskTexts)
+QList<Recording> recordings(const QStringList &commands, const QStringList &maskTexts)
 {
     QList<Recording> rows;
     for (const SimModel &model : SimCatalog::models()) {
@@ -73,7 +57,7 @@ inline QList<Recording> recordings(const QStringList &commands, const QStringLis
 
 // An SQL text literal that stays readable: CR LF pairs are written as line breaks inside a
 // replace(), a lone CR or LF as char(13) or char(10); the value comes back byte for byte.
-inline QString sqlText(const QString &text)
+QString sqlText(const QString &text)
 {
     QStringList parts;
     QString pending; // CR LF pairs already turned into LF
@@ -101,26 +85,26 @@ inline QString sqlText(const QString &text)
     return parts.isEmpty() ? QStringLiteral("''") : parts.join(QStringLiteral(" || "));
 }
 
-inline QString maskSeed(const QStringList &maskTexts)
+QString maskSeed(const QStringList &maskTexts)
 {
     QString out;
     QTextStream s(&out);
     s << "-- Demo masking texts: the serial numbers and NAND UIDs of the simulated boards, so that\n"
          "-- recorded answers carry \"xxxxx\u00AE\" in their place. Illustrative values; written by\n"
-         "-- tests/comparator/tst_demodados (VEKTO_WRITE_DEMO_SEEDS=data/seed), which also checks them.\n";
+         "-- vekto-demoseeds; the comparator tests check them.\n";
     for (const QString &m : maskTexts)
         s << "INSERT INTO M (String) VALUES (" << sqlText(m) << ");\n";
     return out;
 }
 
-inline QString dadosSeed(const QList<Recording> &rows)
+QString dadosSeed(const QList<Recording> &rows)
 {
     QString out;
     QTextStream s(&out);
     s << "-- Demo recordings: the simulated phone's good-board answer to every listed command, per\n"
          "-- model, exactly as the console shows it (masked like the masking tool leaves it). These are\n"
-         "-- illustrative, not readings of real boards. Written by tests/comparator/tst_demodados\n"
-         "-- (VEKTO_WRITE_DEMO_SEEDS=data/seed), which also checks them against the simulator.\n";
+         "-- illustrative, not readings of real boards. Written by vekto-demoseeds;\n"
+         "-- the comparator tests check them against the simulator.\n";
     for (const Recording &r : rows) {
         s << "INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES (" << sqlText(r.model) << ", "
           << sqlText(r.command) << ",\n"
