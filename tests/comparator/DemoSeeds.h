@@ -71,6 +71,38 @@ inline QList<Recording> recordings(const QStringList &commands, const QStringLis
     return rows;
 }
 
+// Recordings kept under a test's key word rather than a command: the additional-tests and
+// battery screens look up the known-good answer of a whole test by that word. Each word takes
+// the answer of one command as the screen sends it (the Tristar readout with its double blanks).
+inline QList<std::pair<QString, QString>> keyWordCommands()
+{
+    return {
+        {QStringLiteral("TRISTAR"),
+         QStringLiteral("tristar --read dx1 --read dx2  --read acc1  --read acc2  --read idx --read vdx")},
+        {QStringLiteral("DRAM"), QStringLiteral("testmemory")},
+        {QStringLiteral("BATERIA"), QStringLiteral("battery --properties")},
+    };
+}
+
+inline QList<Recording> keyWordRecordings(const QStringList &maskTexts)
+{
+    QList<Recording> rows;
+    for (const SimModel &model : SimCatalog::models()) {
+        for (const auto &[keyWord, command] : keyWordCommands()) {
+            const QString console = consoleText(model, command);
+            rows.append({model.name, keyWord, console,
+                         AutoComparador::mask(console, maskTexts, AutoComparador::FillerMarks::Remove)});
+        }
+    }
+    return rows;
+}
+
+// Every shipped recording: each listed command, then each key word, for every model.
+inline QList<Recording> allRecordings(const QStringList &commands, const QStringList &maskTexts)
+{
+    return recordings(commands, maskTexts) + keyWordRecordings(maskTexts);
+}
+
 // An SQL text literal that stays readable: CR LF pairs are written as line breaks inside a
 // replace(), a lone CR or LF as char(13) or char(10); the value comes back byte for byte.
 inline QString sqlText(const QString &text)
@@ -113,11 +145,12 @@ inline QString maskSeed(const QStringList &maskTexts)
     return out;
 }
 
-inline QString dadosSeed(const QList<Recording> &rows)
+// `subject` names what the rows answer, in the file's first line.
+inline QString dadosSeed(const QList<Recording> &rows, const char *subject = "every listed command")
 {
     QString out;
     QTextStream s(&out);
-    s << "-- Demo recordings: the simulated phone's good-board answer to every listed command, per\n"
+    s << "-- Demo recordings: the simulated phone's good-board answer to " << subject << ", per\n"
          "-- model, exactly as the console shows it (masked like the masking tool leaves it). These are\n"
          "-- illustrative, not readings of real boards. Written by tests/comparator/tst_demodados\n"
          "-- (VEKTO_WRITE_DEMO_SEEDS=data/seed), which also checks them against the simulator.\n";

@@ -1,5 +1,6 @@
 // The demo recordings shipped in Config.vkt agree with the simulated phone: on a good board of
-// every model, every listed command's answer shows the comparator's mark.
+// every model, every listed command's answer, and every test kept under a key word, shows the
+// comparator's mark.
 
 #include "DemoSeeds.h"
 
@@ -43,7 +44,7 @@ void TestDemoDados::everyCommandOfEveryModelIsRecorded()
 {
     Database db(m_shipped, Database::Access::ReadOnly);
     QCOMPARE(db.maskTexts(), m_masks);
-    const QList<demo::Recording> expected = demo::recordings(m_commands, m_masks);
+    const QList<demo::Recording> expected = demo::allRecordings(m_commands, m_masks);
     QCOMPARE(db.allDados().size(), expected.size());
     for (const demo::Recording &r : expected) {
         const auto row = db.dadosRecord(r.model, r.command);
@@ -57,7 +58,7 @@ void TestDemoDados::goodBoardShowsTheMark()
 {
     Database db(m_shipped, Database::Access::ReadOnly);
     const QStringList masks = db.maskTexts();
-    for (const demo::Recording &r : demo::recordings(m_commands, m_masks)) {
+    for (const demo::Recording &r : demo::allRecordings(m_commands, m_masks)) {
         const auto row = db.dadosRecord(r.model, r.command);
         QVERIFY(row);
         QVERIFY2(AutoComparador::evaluate(r.console, row->dados, masks, false) == AutoComparador::Mark::Shown,
@@ -116,7 +117,9 @@ void TestDemoDados::writeSeeds()
         QSKIP("set VEKTO_WRITE_DEMO_SEEDS to the seed folder to rewrite the demo seeds");
     for (const auto &[name, text] : {std::pair{QStringLiteral("40_m_demo.sql"), demo::maskSeed(m_masks)},
                                      std::pair{QStringLiteral("50_dados_demo.sql"),
-                                               demo::dadosSeed(demo::recordings(m_commands, m_masks))}}) {
+                                               demo::dadosSeed(demo::recordings(m_commands, m_masks))},
+                                     std::pair{QStringLiteral("55_dados_testes_demo.sql"),
+                                               demo::dadosSeed(demo::keyWordRecordings(m_masks), "each test kept under a key word")}}) {
         QFile file(dir + u'/' + name);
         QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
         file.write(text.toUtf8());
