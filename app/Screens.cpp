@@ -1,11 +1,14 @@
 #include "Screens.h"
 
+#include "Bateria.h"
 #include "BuckLdo.h"
 #include "BuckTeste.h"
 #include "Acorn.h"
 #include "Chestnut.h"
 #include "Inicial.h"
 #include "Master.h"
+#include "Nand.h"
+#include "Outros.h"
 #include "Session.h"
 #include "Tigris.h"
 #include "Tristar.h"
@@ -49,13 +52,25 @@ void registerAll(Inicial &inicial, Shell &shell)
                            [](const ScreenContext &ctx) -> QWidget * { return new Chestnut(ctx); });
     inicial.registerScreen(0, QStringLiteral("Acorn"), QStringLiteral("Acorn"),
                            [](const ScreenContext &ctx) -> QWidget * { return new Acorn(ctx); });
+    // Screens that open others and work with what they opened (the NAND rails in VCores).
+    const auto openAndReturn = [&inicial](const QString &name) { return inicial.openScreen(name); };
+    inicial.registerScreen(7, QStringLiteral("Nand"), QStringLiteral("Testes de Memória Nand"),
+                           [openAndReturn, &shell](const ScreenContext &ctx) -> QWidget * {
+                               return new Nand(ctx, shell, openAndReturn);
+                           });
+    inicial.registerScreen(17, QStringLiteral("Outros"), QStringLiteral("Testes Adicionais"),
+                           [openAndReturn, &shell](const ScreenContext &ctx) -> QWidget * {
+                               return new Outros(ctx, shell, openAndReturn);
+                           });
+    inicial.registerScreen(0, QStringLiteral("Bateria"), QStringLiteral("Bateria"),
+                           [](const ScreenContext &ctx) -> QWidget * { return new Bateria(ctx); });
 }
 
 QStringList names()
 {
     return {QStringLiteral("Master"), QStringLiteral("VCores"), QStringLiteral("BuckLdo"), QStringLiteral("xIdioma"),
             QStringLiteral("BuckTeste"), QStringLiteral("Tigris"), QStringLiteral("Tristar"), QStringLiteral("Chestnut"),
-            QStringLiteral("Acorn")};
+            QStringLiteral("Acorn"), QStringLiteral("Nand"), QStringLiteral("Outros"), QStringLiteral("Bateria")};
 }
 
 } // namespace Screens

@@ -1,4 +1,5 @@
 // vekto-cli: the tool's engines without a window, for scripts, support and tests.
+#include "BoardTestCommand.h"
 #include "CliCommands.h"
 #include "CliOutput.h"
 #include "JudgeChips.h"
@@ -26,12 +27,16 @@ int main(int argc, char **argv)
                  return runJudgeCompare(a.mid(1), out, err);
              if (isChipEngine(a.value(0)))
                  return runJudgeChips(a, out, err);
+             if (isBoardTestEngine(a.value(0)))
+                 return runBoardTestJudge(a, out, err);
              return runJudgeRails(a, out, err);
          }},
         {QStringLiteral("run"), [](const QStringList &a) {
              QTextStream out(stdout), err(stderr);
              if (isChipEngine(a.value(0)))
                  return runRunChips(a, out, err);
+             if (isBoardTestEngine(a.value(0)))
+                 return runBoardTestLive(a, out, err);
              return runRunRails(a, out, err);
          }},
     };

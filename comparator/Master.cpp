@@ -6,6 +6,7 @@
 #include "ConsoleExchange.h"
 #include "Database.h"
 #include "Dialogs.h"
+#include "ProgramPdf.h"
 #include "Session.h"
 #include "Shell.h"
 #include "fmHelp.h"
@@ -383,15 +384,7 @@ QString Master::helpPdfName(quint8 idioma)
 
 void Master::openHelpPdf()
 {
-    // The help files lie beside the program, as Config.vkt does.
-    const QString name = helpPdfName(session().idioma());
-    const QString path = QFileInfo(session().configPath()).absoluteDir().filePath(name);
-    if (!QFileInfo::exists(path)) {
-        dialogs().critical(this, Traduz(QStringLiteral("PDF_AUSENTE_TITULO")),
-                           Traduz(QStringLiteral("PDF_AUSENTE")) + QDir::toNativeSeparators(path));
-        return;
-    }
-    m_shell.open(path);
+    ProgramPdf::open(this, session(), dialogs(), m_shell, helpPdfName(session().idioma()));
 }
 
 void Master::maskRecordedAnswer()

@@ -55,6 +55,38 @@ QList<Recording> recordings(const QStringList &commands, const QStringList &mask
     return rows;
 }
 
+// Recordings kept under a test's key word rather than a command: the additional-tests and
+// battery screens look up the known-good answer of a whole test by that word. Each word takes
+// the answer of one command as the screen sends it (the Tristar readout with its double blanks).
+QList<std::pair<QString, QString>> keyWordCommands()
+{
+    return {
+        {QStringLiteral("TRISTAR"),
+         QStringLiteral("tristar --read dx1 --read dx2  --read acc1  --read acc2  --read idx --read vdx")},
+        {QStringLiteral("DRAM"), QStringLiteral("testmemory")},
+        {QStringLiteral("BATERIA"), QStringLiteral("battery --properties")},
+    };
+}
+
+QList<Recording> keyWordRecordings(const QStringList &maskTexts)
+{
+    QList<Recording> rows;
+    for (const SimModel &model : SimCatalog::models()) {
+        for (const auto &[keyWord, command] : keyWordCommands()) {
+            const QString console = consoleText(model, command);
+            rows.append({model.name, keyWord, console,
+                         AutoComparador::mask(console, maskTexts, AutoComparador::FillerMarks::Remove)});
+        }
+    }
+    return rows;
+}
+
+// Every shipped recording: each listed command, then each key word, for every model.
+QList<Recording> allRecordings(const QStringList &commands, const QStringList &maskTexts)
+{
+    return recordings(commands, maskTexts) + keyWordRecordings(maskTexts);
+}
+
 // An SQL text literal that stays readable: CR LF pairs are written as line breaks inside a
 // replace(), a lone CR or LF as char(13) or char(10); the value comes back byte for byte.
 QString sqlText(const QString &text)
@@ -97,11 +129,11 @@ QString maskSeed(const QStringList &maskTexts)
     return out;
 }
 
-QString dadosSeed(const QList<Recording> &rows)
+QString dadosSeed(const QList<Recording> &rows, const char *subject)
 {
     QString out;
     QTextStream s(&out);
-    s << "-- Demo recordings: the simulated phone's good-board answer to every listed command, per\n"
+    s << "-- Demo recordings: the simulated phone's good-board answer to " << subject << ", per\n"
          "-- model, exactly as the console shows it (masked like the masking tool leaves it). These are\n"
          "-- illustrative, not readings of real boards. Written by vekto-demoseeds;\n"
          "-- the comparator tests check them against the simulator.\n";

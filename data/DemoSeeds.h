@@ -2,7 +2,8 @@
 // The shipped demo recordings, derived from the simulated phone's good boards: for every model
 // and every command of the list, the console text the tool receives from the simulator, with the
 // board's identifying texts (serial numbers, NAND UID) masked as the masking tool would leave
-// them. vekto-demoseeds writes data/seed/40_m_demo.sql and 50_dados_demo.sql from here, and the
+// them. vekto-demoseeds writes data/seed/40_m_demo.sql, 50_dados_demo.sql and 55_dados_testes_demo.sql
+// from here, and the
 // comparator tests check the shipped file against it, so the seeds cannot drift from the simulator.
 
 #include "SimCatalog.h"
@@ -10,6 +11,7 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
+#include <utility>
 
 namespace demo {
 
@@ -26,9 +28,16 @@ QString consoleText(const SimModel &model, const QString &command);
 // Texts that tell one board from another: the serial numbers in "syscfg list" and the NAND UID.
 QStringList masks();
 QList<Recording> recordings(const QStringList &commands, const QStringList &maskTexts);
+// Recordings kept under a test's key word ("TRISTAR", "DRAM", "BATERIA") rather than a command,
+// with the command whose answer each word stands for.
+QList<std::pair<QString, QString>> keyWordCommands();
+QList<Recording> keyWordRecordings(const QStringList &maskTexts);
+// Every shipped recording: each listed command, then each key word, for every model.
+QList<Recording> allRecordings(const QStringList &commands, const QStringList &maskTexts);
 // An SQL text literal that stays readable and gives the value back byte for byte.
 QString sqlText(const QString &text);
 QString maskSeed(const QStringList &maskTexts);
-QString dadosSeed(const QList<Recording> &rows);
+// `subject` names what the rows answer, in the file's first line.
+QString dadosSeed(const QList<Recording> &rows, const char *subject = "every listed command");
 
 } // namespace demo

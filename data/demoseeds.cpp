@@ -28,7 +28,10 @@ int main(int argc, char **argv)
     const QStringList masks = demo::masks();
     for (const auto &[name, text] : {std::pair{QStringLiteral("40_m_demo.sql"), demo::maskSeed(masks)},
                                      std::pair{QStringLiteral("50_dados_demo.sql"),
-                                               demo::dadosSeed(demo::recordings(commands, masks))}}) {
+                                               demo::dadosSeed(demo::recordings(commands, masks))},
+                                     std::pair{QStringLiteral("55_dados_testes_demo.sql"),
+                                               demo::dadosSeed(demo::keyWordRecordings(masks),
+                                                               "each test kept under a key word")}}) {
         QFile file(args.at(2) + u'/' + name);
         if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(text.toUtf8()) < 0) {
             err << "vekto-demoseeds: cannot write " << file.fileName() << '\n';

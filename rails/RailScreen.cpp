@@ -238,6 +238,12 @@ void RailScreen::PrePesquisa()
 
 void RailScreen::PrePesquisaNand()
 {
+    // The chip choice shows NAND without starting a reading: the NAND screen only points the
+    // grid at the rails, the technician reads them when the board is ready.
+    if (m_kind.chipFilter) {
+        const QSignalBlocker block(ui->cbICs);
+        ui->cbICs->setCurrentText(QStringLiteral("NAND"));
+    }
     bindGrid(Database::nandFilter(session().modelo()));
 }
 

@@ -56,7 +56,7 @@ public:
     void MontaConsultaGrade();
     // Points the grid at the model's rails of this class without sending anything.
     void PrePesquisa();
-    // The same grid on the model's NAND rails, for the NAND screen.
+    // The same grid on the model's NAND rails with the chip choice on "NAND", for the NAND screen.
     void PrePesquisaNand();
 
     // btGravar(slot) and btExcluir(slot), slot 1 to 3.
