@@ -2,6 +2,8 @@
 
 #include "BuckLdo.h"
 #include "BuckTeste.h"
+#include "I2C.h"
+#include "IC.h"
 #include "Inicial.h"
 #include "Master.h"
 #include "Session.h"
@@ -28,6 +30,18 @@ void registerAll(Inicial &inicial, Shell &shell)
                                });
                                return screen;
                            });
+    inicial.registerScreen(8, QStringLiteral("IC"), QStringLiteral("Testes IC's"),
+                           [&inicial](const ScreenContext &ctx) -> QWidget * {
+                               return new IC(ctx, [&inicial](const QString &name, bool hydra) {
+                                   QWidget *chip = inicial.openScreen(name);
+                                   // TO CONNECT AT MERGE (Tristar screen not on this branch yet):
+                                   //   if (auto *t = qobject_cast<Tristar *>(chip)) t->setHydra(hydra);
+                                   Q_UNUSED(chip);
+                                   Q_UNUSED(hydra);
+                               });
+                           });
+    inicial.registerScreen(9, QStringLiteral("I2C"), QStringLiteral("Testes de Leitura I2C"),
+                           [&shell](const ScreenContext &ctx) -> QWidget * { return new I2C(ctx, shell); });
     inicial.registerScreen(10, QStringLiteral("xIdioma"), QStringLiteral("Idioma / Language"),
                            [&inicial](const ScreenContext &ctx) -> QWidget * {
                                return new xIdioma(ctx.session, ctx.dialogs, [&inicial] { inicial.closeTestScreens(); });
@@ -39,8 +53,8 @@ void registerAll(Inicial &inicial, Shell &shell)
 
 QStringList names()
 {
-    return {QStringLiteral("Master"), QStringLiteral("VCores"), QStringLiteral("BuckLdo"), QStringLiteral("xIdioma"),
-            QStringLiteral("BuckTeste")};
+    return {QStringLiteral("Master"), QStringLiteral("VCores"), QStringLiteral("BuckLdo"), QStringLiteral("IC"),
+            QStringLiteral("I2C"),    QStringLiteral("xIdioma"), QStringLiteral("BuckTeste")};
 }
 
 } // namespace Screens

@@ -2,6 +2,7 @@
 #include "CliCommands.h"
 #include "CliOutput.h"
 #include "JudgeCompare.h"
+#include "JudgeI2C.h"
 #include "JudgeRails.h"
 #include "RunRails.h"
 
@@ -23,10 +24,16 @@ int main(int argc, char **argv)
              QTextStream out(stdout), err(stderr);
              if (a.value(0) == QLatin1String("compare"))
                  return runJudgeCompare(a.mid(1), out, err);
+             if (a.value(0) == QLatin1String("i2c"))
+                 return runJudgeI2C(a.mid(1), out, err);
+             if (a.value(0) == QLatin1String("ic"))
+                 return runJudgeIC(a.mid(1), out, err);
              return runJudgeRails(a, out, err);
          }},
         {QStringLiteral("run"), [](const QStringList &a) {
              QTextStream out(stdout), err(stderr);
+             if (a.value(0) == QLatin1String("i2c"))
+                 return runRunI2C(a.mid(1), out, err);
              return runRunRails(a, out, err);
          }},
     };
