@@ -166,7 +166,8 @@ void I2C::judge()
 
     if (!readable) {
         // Without the reference rows nothing was judged: this must never read as "no failure".
-        const QString problem = Traduz(QStringLiteral("DB_ERRO_LEITURA"));
+        const QString problem = Traduz(
+            QStringLiteral("Não foi possível ler as referências do arquivo 'Config.vkt'; nada foi julgado."));
         ui->lbResultado->setText(problem);
         if (m_autoRunning)
             ui->ListView->addItem(problem);

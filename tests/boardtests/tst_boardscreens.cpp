@@ -371,24 +371,6 @@ private slots:
             QVERIFY(bench.dialogs.shown.first().startsWith(QStringLiteral("critical:Arquivo ausente|")));
     }
 
-    void barWrapsAround()
-    {
-        Bench bench(QStringLiteral("IP 7"));
-        I2C screen(bench.context, bench.shell);
-        screen.resize(700, 600);
-        screen.btI2C(0);
-        QVERIFY(screen.timerBarra().isActive());
-        const int start = screen.barraWidth();
-        screen.onTimerBarra();
-        QCOMPARE(screen.barraWidth(), start + I2C::BarraStep);
-        bool wrapped = false;
-        for (int i = 0; i < 500 && !wrapped; ++i) {
-            screen.onTimerBarra();
-            wrapped = screen.barraWidth() == 1;
-        }
-        QVERIFY(wrapped);
-    }
-
     void icCheck_data()
     {
         QTest::addColumn<int>("length");

@@ -1,7 +1,6 @@
-// The I2C and IC judging rules without a screen: which buses each model offers, how a bus answer
-// is judged device by device, how the failure list grows, and the length rules of the IC checks.
+// The I2C judging rules without a screen: which buses each model offers, how a bus answer is
+// judged device by device, and how the failure list grows.
 #include "I2CEngine.h"
-#include "ICCheck.h"
 
 #include <QtTest>
 
@@ -155,70 +154,6 @@ private slots:
             entries << QString::number(bus) + e;
         const I2CBusResult r = I2CEngine::judge(bus, answer, entries);
         QCOMPARE(I2CEngine::appendFailures(before, r, model), after);
-    }
-
-    void pdfName_data()
-    {
-        QTest::addColumn<QString>("model");
-        QTest::addColumn<QString>("file");
-        QTest::newRow("IP 6") << "IP 6" << "xA8.pdf";
-        QTest::newRow("IP 6 Plus") << "IP 6 Plus" << "xA8.pdf";
-        QTest::newRow("IP 6s") << "IP 6s" << "A9.pdf";
-        QTest::newRow("IP 6s Plus") << "IP 6s Plus" << "A9.pdf";
-        QTest::newRow("IP 7 Plus") << "IP 7 Plus" << "xA10.pdf";
-        QTest::newRow("IP 8") << "IP 8" << "xA11.pdf";
-        QTest::newRow("IP X") << "IP X" << "xA11.pdf";
-        QTest::newRow("unknown") << "Galaxy" << "";
-    }
-    void pdfName()
-    {
-        QFETCH(QString, model);
-        QFETCH(QString, file);
-        QCOMPARE(I2CEngine::pdfName(model), file);
-    }
-
-    void icCheck_data()
-    {
-        QTest::addColumn<int>("kind");
-        QTest::addColumn<int>("length");
-        QTest::addColumn<bool>("arrived");
-        QTest::addColumn<int>("verdict");
-        QTest::newRow("30 is no answer yet") << 1 << 30 << false << int(Verdict::Fail);
-        QTest::newRow("31 has arrived") << 1 << 31 << true << int(Verdict::Fail);
-        QTest::newRow("200 is OFF") << 2 << 200 << true << int(Verdict::Fail);
-        QTest::newRow("201 is OK") << 2 << 201 << true << int(Verdict::Pass);
-        QTest::newRow("kind 0 is judged too") << 0 << 201 << true << int(Verdict::Pass);
-        QTest::newRow("kind 6 is never judged") << 6 << 5000 << true << int(Verdict::None);
-    }
-    void icCheck()
-    {
-        QFETCH(int, kind);
-        QFETCH(int, length);
-        QFETCH(bool, arrived);
-        QFETCH(int, verdict);
-        // Carriage returns count as characters, as the answer box holds them.
-        QString dados = QString(length, u'a');
-        if (length > 4)
-            dados.replace(0, 2, QStringLiteral("\r\n"));
-        QCOMPARE(ICCheck::arrived(dados), arrived);
-        QCOMPARE(int(ICCheck::judge(kind, dados)), verdict);
-    }
-
-    void icChip_data()
-    {
-        QTest::addColumn<QString>("model");
-        QTest::addColumn<QString>("chip");
-        QTest::newRow("IP 7 Plus") << "IP 7 Plus" << "TRISTAR";
-        QTest::newRow("IP 8") << "IP 8" << "HYDRA";
-        QTest::newRow("IP 8 Plus") << "IP 8 Plus" << "HYDRA";
-        QTest::newRow("IP X") << "IP X" << "HYDRA";
-        QTest::newRow("exact text only") << "IP 8 plus" << "TRISTAR";
-    }
-    void icChip()
-    {
-        QFETCH(QString, model);
-        QFETCH(QString, chip);
-        QCOMPARE(ICCheck::chipName(model), chip);
     }
 };
 

@@ -88,8 +88,6 @@ private slots:
                                                           << "I2C 0\nx74 - PMU\nx1b - Hydra\nx75 - Charger Tigris";
         QTest::newRow("no rows for the bus: nothing judged")
             << "IP 7" << 6 << consoleAnswer("IP 7", Profile::Good, "i2c -s 6") << 1 << "" << none;
-        QTest::newRow("quote in the model") << "IP 7' OR '1'='1" << 0 << consoleAnswer("IP 7", Profile::Good, "i2c -s 0")
-                                            << 1 << "" << none;
         QTest::newRow("a megabyte of garbage") << "IP X" << 5 << QByteArray(1 << 20, '\xfe') << 1 << "ff"
                                                << "I2C 5\nx2a - Acorn\nx4e - Face ID Romeo";
     }
@@ -128,14 +126,8 @@ private slots:
         QTest::addColumn<QString>("chip");
         QTest::newRow("IP 8 Plus data dump") << "IP 8 Plus" << 1 << consoleAnswer("IP 8 Plus", Profile::Good, "tristar -p")
                                              << 0 << QJsonValue("COMUNICAÇÃO OK") << "HYDRA";
-        QTest::newRow("IP 7 registers") << "IP 7" << 2
-                                        << consoleAnswer("IP 7", Profile::Good,
-                                                         "tristar --read dx1 --read dx2  --read acc1  --read acc2  --read idx --read vdx")
-                                        << 0 << QJsonValue("COMUNICAÇÃO OK") << "TRISTAR";
         QTest::newRow("200 characters") << "IP 7" << 1 << QByteArray(200, 'a') << 1 << QJsonValue("COMUNICAÇÃO OFF")
                                         << "TRISTAR";
-        QTest::newRow("201 characters") << "IP X" << 2 << QByteArray(201, 'a') << 0 << QJsonValue("COMUNICAÇÃO OK")
-                                        << "HYDRA";
         QTest::newRow("30 characters: never arrived") << "IP 7" << 1 << QByteArray(30, 'a') << 1 << QJsonValue() << "TRISTAR";
         QTest::newRow("kind 6 is not judged") << "IP 7" << 6 << QByteArray(500, 'a') << 1 << QJsonValue() << "TRISTAR";
     }
@@ -157,7 +149,6 @@ private slots:
     {
         QTest::addColumn<QStringList>("args");
         QTest::newRow("bus 8") << QStringList{"judge", "i2c", "--model", "IP 7", "--bus", "8", "--answer", Db};
-        QTest::newRow("bus not a number") << QStringList{"judge", "i2c", "--model", "IP 7", "--bus", "x", "--answer", Db};
         QTest::newRow("answer missing") << QStringList{"judge", "i2c", "--model", "IP 7", "--bus", "0", "--answer",
                                                        "/nonexistent/a.txt"};
         QTest::newRow("database missing") << QStringList{"judge", "i2c", "--model", "IP 7", "--bus", "0", "--answer", Db,
