@@ -5,6 +5,8 @@
 #include "BuckTeste.h"
 #include "Acorn.h"
 #include "Chestnut.h"
+#include "I2C.h"
+#include "IC.h"
 #include "Inicial.h"
 #include "Master.h"
 #include "Nand.h"
@@ -35,6 +37,16 @@ void registerAll(Inicial &inicial, Shell &shell)
                                });
                                return screen;
                            });
+    inicial.registerScreen(8, QStringLiteral("IC"), QStringLiteral("Testes IC's"),
+                           [&inicial](const ScreenContext &ctx) -> QWidget * {
+                               return new IC(ctx, [&inicial](const QString &name, bool hydra) {
+                                   // The same Tristar screen reads the Hydra chip; only its title differs.
+                                   if (auto *tristar = qobject_cast<Tristar *>(inicial.openScreen(name)))
+                                       tristar->setHydra(hydra);
+                               });
+                           });
+    inicial.registerScreen(9, QStringLiteral("I2C"), QStringLiteral("Testes de Leitura I2C"),
+                           [&shell](const ScreenContext &ctx) -> QWidget * { return new I2C(ctx, shell); });
     inicial.registerScreen(10, QStringLiteral("xIdioma"), QStringLiteral("Idioma / Language"),
                            [&inicial](const ScreenContext &ctx) -> QWidget * {
                                return new xIdioma(ctx.session, ctx.dialogs, [&inicial] { inicial.closeTestScreens(); });
@@ -70,7 +82,8 @@ QStringList names()
 {
     return {QStringLiteral("Master"), QStringLiteral("VCores"), QStringLiteral("BuckLdo"), QStringLiteral("xIdioma"),
             QStringLiteral("BuckTeste"), QStringLiteral("Tigris"), QStringLiteral("Tristar"), QStringLiteral("Chestnut"),
-            QStringLiteral("Acorn"), QStringLiteral("Nand"), QStringLiteral("Outros"), QStringLiteral("Bateria")};
+            QStringLiteral("Acorn"), QStringLiteral("Nand"), QStringLiteral("Outros"), QStringLiteral("Bateria"),
+            QStringLiteral("IC"), QStringLiteral("I2C")};
 }
 
 } // namespace Screens

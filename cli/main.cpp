@@ -4,6 +4,7 @@
 #include "CliOutput.h"
 #include "JudgeChips.h"
 #include "JudgeCompare.h"
+#include "JudgeI2C.h"
 #include "JudgeRails.h"
 #include "RunRails.h"
 
@@ -29,6 +30,10 @@ int main(int argc, char **argv)
                  return runJudgeChips(a, out, err);
              if (isBoardTestEngine(a.value(0)))
                  return runBoardTestJudge(a, out, err);
+             if (a.value(0) == QLatin1String("i2c"))
+                 return runJudgeI2C(a.mid(1), out, err);
+             if (a.value(0) == QLatin1String("ic"))
+                 return runJudgeIC(a.mid(1), out, err);
              return runJudgeRails(a, out, err);
          }},
         {QStringLiteral("run"), [](const QStringList &a) {
@@ -37,6 +42,8 @@ int main(int argc, char **argv)
                  return runRunChips(a, out, err);
              if (isBoardTestEngine(a.value(0)))
                  return runBoardTestLive(a, out, err);
+             if (a.value(0) == QLatin1String("i2c"))
+                 return runRunI2C(a.mid(1), out, err);
              return runRunRails(a, out, err);
          }},
     };

@@ -93,7 +93,9 @@ QByteArray Board::applyFaults(const QString &normalised, QByteArray body)
         return ChipFaults::lowerJudgedValue(
             normalised, normalised == QLatin1String("pmuadc --read all") ? lowerRail(body) : body);
     case Profile::I2cMissing:
-        return normalised == QLatin1String("i2c -s 0") ? dropLastI2cDevice(body) : body;
+        return normalised == QLatin1String("i2c -s ") + QString::number(missingI2cBus(m_model.name))
+            ? dropLastI2cDevice(body)
+            : body;
     case Profile::Garbage:
         return sprinkleGarbage(body);
     default:
@@ -122,6 +124,19 @@ QByteArray Board::lowerRail(QByteArray body) const
         return body;
     }
     return body;
+}
+
+int Board::missingI2cBus(const QString &model)
+{
+    // The bus behind the flex or part that most often breaks on each model (front camera and
+    // proximity flex, dock, RF), so the lost device points a technician at a connector.
+    if (model == QLatin1String("IP 8"))
+        return 1;
+    if (model == QLatin1String("IP 8 Plus"))
+        return 3;
+    if (model == QLatin1String("IP X"))
+        return 5;
+    return 2;
 }
 
 QByteArray Board::dropLastI2cDevice(QByteArray body) const

@@ -28,6 +28,8 @@ public:
     QByteArray answerBody(const QString &command);
 
     static QByteArray notFound(const QString &command);
+    // The bus on which the i2c-missing board loses its last device.
+    static int missingI2cBus(const QString &model);
 
 private:
     void runCommand(const QByteArray &received);
@@ -35,6 +37,7 @@ private:
     QByteArray applyFaults(const QString &normalised, QByteArray body);
     QByteArray lowerRail(QByteArray body) const;
     QByteArray dropLastI2cDevice(QByteArray body) const;
+
     static QByteArray sprinkleGarbage(const QByteArray &body);
     QByteArray chatter();
 
