@@ -2,8 +2,11 @@
 
 #include "BuckLdo.h"
 #include "BuckTeste.h"
+#include "Displays.h"
 #include "Inicial.h"
 #include "Master.h"
+#include "RFs.h"
+#include "RFs_Esq.h"
 #include "Session.h"
 #include "VCores.h"
 #include "xIdioma.h"
@@ -35,12 +38,28 @@ void registerAll(Inicial &inicial, Shell &shell)
                            false);
     inicial.registerScreen(13, QStringLiteral("BuckTeste"), QStringLiteral("Buck Teste"),
                            [](const ScreenContext &ctx) -> QWidget * { return new BuckTeste(ctx); });
+    inicial.registerScreen(5, QStringLiteral("RFs"), QStringLiteral("Testes de Comunicação RF"),
+                           [opener](const ScreenContext &ctx) -> QWidget * {
+                               auto *screen = new RFs(ctx);
+                               screen->setScreenOpener(opener);
+                               return screen;
+                           });
+    inicial.registerScreen(0, QStringLiteral("RFs_Esq"), QStringLiteral("TensoesRF"),
+                           [](const ScreenContext &ctx) -> QWidget * { return new RFs_Esq(ctx); });
+    inicial.registerScreen(6, QStringLiteral("Displays"), QStringLiteral("Testes de Display"),
+                           [opener, &inicial](const ScreenContext &ctx) -> QWidget * {
+                               auto *screen = new Displays(ctx);
+                               screen->setScreenOpener(opener, [&inicial](const QString &name) {
+                                   return inicial.hasScreen(name);
+                               });
+                               return screen;
+                           });
 }
 
 QStringList names()
 {
     return {QStringLiteral("Master"), QStringLiteral("VCores"), QStringLiteral("BuckLdo"), QStringLiteral("xIdioma"),
-            QStringLiteral("BuckTeste")};
+            QStringLiteral("BuckTeste"), QStringLiteral("RFs"), QStringLiteral("RFs_Esq"), QStringLiteral("Displays")};
 }
 
 } // namespace Screens

@@ -3,6 +3,7 @@
 #include "CliOutput.h"
 #include "JudgeCompare.h"
 #include "JudgeRails.h"
+#include "JudgeRf.h"
 #include "RunRails.h"
 
 #include <QCoreApplication>
@@ -23,10 +24,14 @@ int main(int argc, char **argv)
              QTextStream out(stdout), err(stderr);
              if (a.value(0) == QLatin1String("compare"))
                  return runJudgeCompare(a.mid(1), out, err);
+             if (a.value(0) == QLatin1String("rf"))
+                 return runJudgeRf(a.mid(1), out, err);
              return runJudgeRails(a, out, err);
          }},
         {QStringLiteral("run"), [](const QStringList &a) {
              QTextStream out(stdout), err(stderr);
+             if (a.value(0) == QLatin1String("rf"))
+                 return runRunRf(a.mid(1), out, err);
              return runRunRails(a, out, err);
          }},
     };

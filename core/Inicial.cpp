@@ -129,6 +129,11 @@ void Inicial::registerScreen(int botao, const QString &name, const QString &tool
     reg.tooltipKey = tooltipKey;
     reg.factory = std::move(factory);
     reg.testScreen = testScreen;
+    // Element 0: a screen that other screens open by name, with no button in the menu.
+    if (botao == 0) {
+        m_screens.insert(name, reg);
+        return;
+    }
     reg.button = new QPushButton(ui->FrameMenu);
     reg.button->setObjectName(QStringLiteral("Botoes_%1").arg(botao));
     reg.button->setToolTip(m_context.session.Traduz(tooltipKey));
@@ -139,7 +144,7 @@ void Inicial::registerScreen(int botao, const QString &name, const QString &tool
     auto *layout = static_cast<QVBoxLayout *>(ui->FrameMenu->layout());
     int at = 0;
     for (const Registration &other : std::as_const(m_screens))
-        if (other.botao < botao)
+        if (other.button && other.botao < botao)
             ++at;
     layout->insertWidget(at, reg.button);
     connect(reg.button, &QPushButton::clicked, this, [this, name] { openScreen(name); });
@@ -204,6 +209,8 @@ void Inicial::Traducao_Form_Inicial()
     ui->ComboAparelhosX->setToolTip(ui->ComboAparelhos->toolTip());
     ui->dockConsole->setWindowTitle(s.Traduz(QStringLiteral("Console")));
     for (const Registration &reg : std::as_const(m_screens)) {
+        if (!reg.button)
+            continue;
         reg.button->setToolTip(s.Traduz(reg.tooltipKey));
         reg.button->setText(s.Traduz(reg.tooltipKey));
     }
