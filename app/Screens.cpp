@@ -11,6 +11,9 @@
 #include "Master.h"
 #include "Nand.h"
 #include "Outros.h"
+#include "Displays.h"
+#include "RFs.h"
+#include "RFs_Esq.h"
 #include "Session.h"
 #include "Tigris.h"
 #include "Tristar.h"
@@ -76,6 +79,22 @@ void registerAll(Inicial &inicial, Shell &shell)
                            });
     inicial.registerScreen(0, QStringLiteral("Bateria"), QStringLiteral("Bateria"),
                            [](const ScreenContext &ctx) -> QWidget * { return new Bateria(ctx); });
+    inicial.registerScreen(5, QStringLiteral("RFs"), QStringLiteral("Testes de Comunicação RF"),
+                           [opener](const ScreenContext &ctx) -> QWidget * {
+                               auto *screen = new RFs(ctx);
+                               screen->setScreenOpener(opener);
+                               return screen;
+                           });
+    inicial.registerScreen(0, QStringLiteral("RFs_Esq"), QStringLiteral("TensoesRF"),
+                           [](const ScreenContext &ctx) -> QWidget * { return new RFs_Esq(ctx); });
+    inicial.registerScreen(6, QStringLiteral("Displays"), QStringLiteral("Testes de Display"),
+                           [opener, &inicial](const ScreenContext &ctx) -> QWidget * {
+                               auto *screen = new Displays(ctx);
+                               screen->setScreenOpener(opener, [&inicial](const QString &name) {
+                                   return inicial.hasScreen(name);
+                               });
+                               return screen;
+                           });
 }
 
 QStringList names()
@@ -83,7 +102,8 @@ QStringList names()
     return {QStringLiteral("Master"), QStringLiteral("VCores"), QStringLiteral("BuckLdo"), QStringLiteral("xIdioma"),
             QStringLiteral("BuckTeste"), QStringLiteral("Tigris"), QStringLiteral("Tristar"), QStringLiteral("Chestnut"),
             QStringLiteral("Acorn"), QStringLiteral("Nand"), QStringLiteral("Outros"), QStringLiteral("Bateria"),
-            QStringLiteral("IC"), QStringLiteral("I2C")};
+            QStringLiteral("IC"), QStringLiteral("I2C"), QStringLiteral("RFs"), QStringLiteral("RFs_Esq"),
+            QStringLiteral("Displays")};
 }
 
 } // namespace Screens

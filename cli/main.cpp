@@ -6,6 +6,7 @@
 #include "JudgeCompare.h"
 #include "JudgeI2C.h"
 #include "JudgeRails.h"
+#include "JudgeRf.h"
 #include "RunRails.h"
 
 #include <QCoreApplication>
@@ -34,6 +35,8 @@ int main(int argc, char **argv)
                  return runJudgeI2C(a.mid(1), out, err);
              if (a.value(0) == QLatin1String("ic"))
                  return runJudgeIC(a.mid(1), out, err);
+             if (a.value(0) == QLatin1String("rf"))
+                 return runJudgeRf(a.mid(1), out, err);
              return runJudgeRails(a, out, err);
          }},
         {QStringLiteral("run"), [](const QStringList &a) {
@@ -44,6 +47,8 @@ int main(int argc, char **argv)
                  return runBoardTestLive(a, out, err);
              if (a.value(0) == QLatin1String("i2c"))
                  return runRunI2C(a.mid(1), out, err);
+             if (a.value(0) == QLatin1String("rf"))
+                 return runRunRf(a.mid(1), out, err);
              return runRunRails(a, out, err);
          }},
     };
