@@ -5,6 +5,7 @@
 #include "Inicial.h"
 #include "Master.h"
 #include "Session.h"
+#include "Sobre.h"
 #include "VCores.h"
 #include "xIdioma.h"
 
@@ -33,6 +34,8 @@ void registerAll(Inicial &inicial, Shell &shell)
                                return new xIdioma(ctx.session, ctx.dialogs, [&inicial] { inicial.closeTestScreens(); });
                            },
                            false);
+    inicial.registerScreen(12, QStringLiteral("Sobre"), QStringLiteral("Sobre"),
+                           [&shell](const ScreenContext &ctx) -> QWidget * { return new Sobre(ctx, shell); });
     inicial.registerScreen(13, QStringLiteral("BuckTeste"), QStringLiteral("Buck Teste"),
                            [](const ScreenContext &ctx) -> QWidget * { return new BuckTeste(ctx); });
 }
@@ -40,7 +43,7 @@ void registerAll(Inicial &inicial, Shell &shell)
 QStringList names()
 {
     return {QStringLiteral("Master"), QStringLiteral("VCores"), QStringLiteral("BuckLdo"), QStringLiteral("xIdioma"),
-            QStringLiteral("BuckTeste")};
+            QStringLiteral("Sobre"), QStringLiteral("BuckTeste")};
 }
 
 } // namespace Screens
