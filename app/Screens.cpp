@@ -17,6 +17,7 @@
 #include "Session.h"
 #include "Tigris.h"
 #include "Tristar.h"
+#include "Sobre.h"
 #include "VCores.h"
 #include "xIdioma.h"
 
@@ -55,6 +56,8 @@ void registerAll(Inicial &inicial, Shell &shell)
                                return new xIdioma(ctx.session, ctx.dialogs, [&inicial] { inicial.closeTestScreens(); });
                            },
                            false);
+    inicial.registerScreen(12, QStringLiteral("Sobre"), QStringLiteral("Sobre"),
+                           [&shell](const ScreenContext &ctx) -> QWidget * { return new Sobre(ctx, shell); });
     // No menu element of its own: it opens from the Buck / Ldo screen's Botao2.
     inicial.registerScreen(0, QStringLiteral("BuckTeste"), QStringLiteral("Buck Teste"),
                            [](const ScreenContext &ctx) -> QWidget * { return new BuckTeste(ctx); });
@@ -103,7 +106,7 @@ QStringList names()
             QStringLiteral("BuckTeste"), QStringLiteral("Tigris"), QStringLiteral("Tristar"), QStringLiteral("Chestnut"),
             QStringLiteral("Acorn"), QStringLiteral("Nand"), QStringLiteral("Outros"), QStringLiteral("Bateria"),
             QStringLiteral("IC"), QStringLiteral("I2C"), QStringLiteral("RFs"), QStringLiteral("RFs_Esq"),
-            QStringLiteral("Displays")};
+            QStringLiteral("Displays"), QStringLiteral("Sobre")};
 }
 
 } // namespace Screens

@@ -4,6 +4,7 @@
 #include "ConsoleExchange.h"
 #include "Database.h"
 #include "Dialogs.h"
+#include "Http.h"
 #include "Inicial.h"
 #include "PortList.h"
 #include "QtSerialPort.h"
@@ -11,6 +12,8 @@
 #include "Session.h"
 #include "Shell.h"
 #include "Startup.h"
+#include "StartupSteps.h"
+#include "Termos.h"
 
 #include <QApplication>
 #include <QSplashScreen>
@@ -24,14 +27,34 @@ int main(int argc, char **argv)
     QtDialogs dialogs;
     QSplashScreen *splash = Startup::showPicture();
     const QString path = Startup::configPath(QCoreApplication::applicationDirPath());
-    if (const auto exitCode = Startup::checkConfig(path, dialogs)) {
+    // An Access Config.vkt of the program before this one is carried over to SQLite first.
+    std::optional<int> exitCode = StartupSteps::migrateConfig(path, dialogs);
+    if (!exitCode)
+        exitCode = Startup::checkConfig(path, dialogs);
+    if (exitCode) {
         delete splash;
         return *exitCode;
     }
+    if (QString error; !StartupSteps::upgradeConfig(path, &error))
+        qWarning("Config.vkt could not be given its new columns: %s", qPrintable(error));
 
     Session session(path);
     Startup::initSession(session);
     dialogs.setSession(&session);
+
+    QtShell shell;
+    QtHttp http;
+    if (!StartupSteps::verificaVersao(session, http, dialogs, shell, [splash] { splash->hide(); })) {
+        delete splash;
+        return 0;
+    }
+    if (!StartupSteps::termos(session, dialogs, [&session, splash] {
+            splash->hide();
+            return Termos(session).exec() == QDialog::Accepted;
+        })) {
+        delete splash;
+        return 0;
+    }
 
     QtSerialPortLink port;
     ConsoleExchange exchange(session, port);
@@ -42,12 +65,10 @@ int main(int argc, char **argv)
     PortList ports;
     const ScreenContext context{session, exchange, dialogs};
     Inicial inicial(context, connection, ports);
-
-    QtShell shell;
     Screens::registerAll(inicial, shell);
 
-    inicial.show();
-    splash->finish(&inicial);
     delete splash;
+    StartupSteps::perguntaImportacao(session, dialogs, nullptr);
+    inicial.show();
     return app.exec();
 }

@@ -9,5 +9,7 @@ namespace Cli {
 int ports(const QStringList &args);
 int send(const QStringList &args);
 int identify(const QStringList &args);
+int importData(const QStringList &args);
+int updateCheck(const QStringList &args);
 
 } // namespace Cli

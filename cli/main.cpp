@@ -23,6 +23,8 @@ int main(int argc, char **argv)
         {QStringLiteral("ports"), Cli::ports},
         {QStringLiteral("send"), Cli::send},
         {QStringLiteral("identify"), Cli::identify},
+        {QStringLiteral("import"), Cli::importData},
+        {QStringLiteral("update-check"), Cli::updateCheck},
         {QStringLiteral("judge"), [](const QStringList &a) {
              QTextStream out(stdout), err(stderr);
              if (a.value(0) == QLatin1String("compare"))
@@ -56,7 +58,8 @@ int main(int argc, char **argv)
     const auto command = args.isEmpty() ? commands.end() : commands.find(args.first());
     if (command == commands.end()) {
         Cli::err(QStringLiteral("usage: vekto-cli ports | send --port P TEXT | identify --port P [--db FILE]"
-                               " | judge ENGINE ... | run ENGINE ..."));
+                               " | judge ENGINE ... | run ENGINE ... | import --from FILE [--db FILE]"
+                               " | update-check [--url URL]"));
         return 2;
     }
     return command->second(args.mid(1));

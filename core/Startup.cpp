@@ -66,7 +66,8 @@ std::optional<int> checkConfig(const QString &path, Dialogs &dialogs)
 void initSession(Session &session)
 {
     session.setVersoes(QString::fromLatin1(Versao));
-    // No update check is wired in: start-up goes on as if it had passed.
+    // Cleared here for every caller; the program's own start ends before it matters when the
+    // update check stops it.
     session.setStartFlag(false);
     session.setScreenId(QStringLiteral("0"));
     session.setDefaultReadoutKey(QStringLiteral("ACORNPMUREADALL"));

@@ -92,8 +92,15 @@ CREATE TABLE Combos (
     Combo10 TEXT
 );
 
--- One row of settings: interface language and the state of the data import.
+-- One row of settings: interface language, the state of the data import, the maker's web
+-- addresses (version page asked at start-up, download page, two remote-support pages; an empty
+-- version page skips the check) and whether the disclaimer was agreed to ("1").
 CREATE TABLE Tools (
-    Idioma TEXT,
-    syncbd TEXT
+    Idioma      TEXT,
+    syncbd      TEXT,
+    UrlVersao   TEXT,
+    UrlDownload TEXT,
+    UrlSuporte  TEXT,
+    UrlSuporte2 TEXT,
+    Termos      TEXT
 );

@@ -123,12 +123,22 @@ bool Database::inTransaction(const std::function<bool()> &work)
 {
     if (!ready())
         return false;
+    if (m_transactionDepth > 0) {
+        // Inside an outer transaction: a failure here makes the outer one roll back.
+        ++m_transactionDepth;
+        const bool ok = work();
+        --m_transactionDepth;
+        return ok;
+    }
     QSqlDatabase db = connection();
     if (!db.transaction()) {
         fail(db.lastError().text());
         return false;
     }
-    if (work() && db.commit()) {
+    ++m_transactionDepth;
+    const bool worked = work();
+    --m_transactionDepth;
+    if (worked && db.commit()) {
         m_lastError.clear();
         ++m_commits;
         return true;

@@ -117,6 +117,18 @@ public:
     std::optional<QString> syncbd();
     bool setSyncbd(const QString &state);
 
+    // --- Tools: addresses and the disclaimer --------------------------------------------------
+    // Columns added after the first release; an older file gets them (empty) at start-up.
+    static const QStringList &toolsTextColumns();
+    bool addMissingToolsColumns();
+    // A text column of Tools (one of toolsTextColumns()); the empty text when unset.
+    std::optional<QString> toolsText(const QString &column);
+    bool setToolsText(const QString &column, const QString &value);
+
+    // Runs `work` as one transaction: either all of its writes land or none. Writes made through
+    // this object inside `work` join it instead of committing on their own.
+    bool transaction(const std::function<bool()> &work) { return inTransaction(work); }
+
 private:
     QSqlQuery prepare(const QString &sql, const QVariantList &values = {});
     bool exec(QSqlQuery &query);
@@ -137,4 +149,5 @@ private:
     QString m_connectionName;
     QString m_lastError;
     quint64 m_commits = 0; // this connection's own commits
+    int m_transactionDepth = 0;
 };

@@ -151,3 +151,59 @@ bool Database::setSyncbd(const QString &state)
 {
     return setSingleRowColumn(QStringLiteral("Tools"), QStringLiteral("syncbd"), state);
 }
+
+const QStringList &Database::toolsTextColumns()
+{
+    static const QStringList columns = {QStringLiteral("UrlVersao"), QStringLiteral("UrlDownload"),
+                                        QStringLiteral("UrlSuporte"), QStringLiteral("UrlSuporte2"),
+                                        QStringLiteral("Termos")};
+    return columns;
+}
+
+bool Database::addMissingToolsColumns()
+{
+    if (!ready())
+        return false;
+    QStringList present;
+    {
+        QSqlQuery info = prepare(QStringLiteral("PRAGMA table_info(Tools)"));
+        if (!exec(info))
+            return false;
+        while (info.next())
+            present << info.value(1).toString();
+    }
+    QStringList missing;
+    for (const QString &column : toolsTextColumns())
+        if (!present.contains(column, Qt::CaseInsensitive))
+            missing << column;
+    if (missing.isEmpty())
+        return true;
+    return inTransaction([&] {
+        for (const QString &column : missing)
+            if (!execute(QStringLiteral("ALTER TABLE Tools ADD COLUMN %1 TEXT").arg(column)))
+                return false;
+        return true;
+    });
+}
+
+std::optional<QString> Database::toolsText(const QString &column)
+{
+    if (!toolsTextColumns().contains(column)) {
+        fail(QStringLiteral("Tools.%1 does not exist").arg(column));
+        return std::nullopt;
+    }
+    bool found = false;
+    const QString value = firstRowValue(QStringLiteral("SELECT %1 FROM Tools ORDER BY rowid LIMIT 1").arg(column), &found);
+    if (!found && !m_lastError.isEmpty())
+        return std::nullopt;
+    return value;
+}
+
+bool Database::setToolsText(const QString &column, const QString &value)
+{
+    if (!toolsTextColumns().contains(column)) {
+        fail(QStringLiteral("Tools.%1 does not exist").arg(column));
+        return false;
+    }
+    return setSingleRowColumn(QStringLiteral("Tools"), column, value);
+}
