@@ -120,7 +120,7 @@ private slots:
         QFETCH(QString, reading);
         QFETCH(QString, reference);
         QVERIFY(!CalculaPorcentagem(reading, reference).has_value());
-        QVERIFY(!desvioPercentual(reading, reference).has_value());
+        QVERIFY(!::desvioPercentual(reading, reference).has_value());
     }
 
     // The number behind the text, uncut: what verdicts are taken from.
