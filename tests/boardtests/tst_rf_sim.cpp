@@ -176,29 +176,6 @@ private slots:
                                                                                                  : "COMUNICAÇÃO OFF"));
     }
 
-    // What `vekto-cli send` saved from the phone judges the same as the live run.
-    void judgeSavedAnswer_data()
-    {
-        QTest::addColumn<QString>("profile");
-        QTest::addColumn<int>("exitCode");
-        QTest::newRow("good") << "good" << 0;
-        QTest::newRow("dead") << "dead-radio" << 1;
-    }
-    void judgeSavedAnswer()
-    {
-        QFETCH(QString, profile);
-        QFETCH(int, exitCode);
-        const CliRun sent = runCli({"send", "--port", phone(profile).port(), "bluetooth --on"});
-        QCOMPARE(sent.exitCode, 0);
-        QTemporaryDir dir;
-        QFile file(dir.filePath("answer.txt"));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(sent.out);
-        file.close();
-        const CliRun run = runCli({"judge", "rf", "--model", "IP 7", "--radio", "1", "--answer", file.fileName()});
-        QVERIFY2(run.exitCode == exitCode, qPrintable(run.errors + QString::fromUtf8(run.out)));
-        QVERIFY(run.out.contains("lbFundoBlue"));
-    }
 };
 
 QTEST_MAIN(TestRfSim)
