@@ -11,7 +11,7 @@
 namespace {
 
 const QString JudgeUsage = QStringLiteral(
-    "usage: vekto-cli judge rf --model M --radio 0-3|baseband|bluetooth|gps|wifi --answer FILE [--json]");
+    "usage: vekto-cli judge rf --model M --radio 0-3|baseband|bluetooth|gps|wifi --answer FILE [--db FILE] [--json]");
 const QString RunUsage = QStringLiteral(
     "usage: vekto-cli run rf --port P --model M|auto --radio 0-3|baseband|bluetooth|gps|wifi [--db FILE] [--json]");
 
@@ -21,6 +21,9 @@ void addCommonOptions(QCommandLineParser &parser)
     parser.addOption({QStringLiteral("radio"), QStringLiteral("0 baseband, 1 Bluetooth, 2 GPS, 3 Wi-Fi."),
                       QStringLiteral("N")});
     parser.addOption({QStringLiteral("json"), QStringLiteral("Print one JSON object.")});
+    // Accepted by every judge and run command alike; a radio verdict itself needs no references.
+    parser.addOption({QStringLiteral("db"), QStringLiteral("The database (default: Config.vkt beside the program)."),
+                      QStringLiteral("FILE")});
 }
 
 bool parseArgs(QCommandLineParser &parser, const QString &command, const QStringList &args, QTextStream &err,
@@ -131,8 +134,6 @@ int runRunRf(const QStringList &args, QTextStream &out, QTextStream &err)
     QCommandLineParser parser;
     addCommonOptions(parser);
     parser.addOption({QStringLiteral("port"), QStringLiteral("The serial device to use."), QStringLiteral("P")});
-    parser.addOption({QStringLiteral("db"), QStringLiteral("The database (default: Config.vkt beside the program)."),
-                      QStringLiteral("FILE")});
     if (!parseArgs(parser, QStringLiteral("run rf"), args, err, RunUsage))
         return 2;
     const QString portName = parser.value(QStringLiteral("port"));

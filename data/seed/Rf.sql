@@ -1,2 +1,3 @@
--- Demo rows for table Rf are added per screen, one file each (Rf-<screen>.sql);
--- every data/seed/*.sql is loaded in name order.
+-- Table Rf ships no fixed rows: its illustrative demo rows are in 60_rf_demo.sql, kept apart like
+-- every *_demo.sql so tests can build a database without them. Every data/seed/*.sql is loaded
+-- in name order.

@@ -163,18 +163,6 @@ private slots:
         QVERIFY(!btBl(&screen, 6)->isVisibleTo(&screen));
     }
 
-    void sliderRange()
-    {
-        BoardBench bench;
-        Displays screen(bench.context);
-        auto *slider = child<QSlider>(&screen, "Slider1");
-        slider->setValue(250);
-        QCOMPARE(bench.commandsWritten(), QStringList{QStringLiteral("bl -p 100\r")});
-        bench.finishExchange();
-        slider->setValue(-3);
-        QCOMPARE(bench.commandsWritten().last(), QStringLiteral("bl -p 0\r"));
-    }
-
     // Dragging sends nothing until the slider is let go, then exactly the level let go at.
     void sliderDrag()
     {

@@ -214,6 +214,22 @@ private slots:
         QCOMPARE(area->verticalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
     }
 
+    // Element 0: a screen other screens open by name, with no menu button, through a language
+    // change as well.
+    void screenWithoutMenuElement()
+    {
+        Program p(m_path);
+        const int buttons = int(p.inicial->findChildren<QPushButton *>().size());
+        p.inicial->registerScreen(0, QStringLiteral("RFs_Esq"), QStringLiteral("TensoesRF"),
+                                  [](const ScreenContext &ctx) -> QWidget * { return new DummyScreen(ctx, "RFs_Esq"); });
+        QVERIFY(!p.find<QPushButton>("Botoes_0"));
+        QCOMPARE(int(p.inicial->findChildren<QPushButton *>().size()), buttons);
+        p.session.setIdioma(2);
+        p.inicial->Traducao_Form_Inicial();
+        QVERIFY(p.inicial->openScreen(QStringLiteral("RFs_Esq")));
+        QVERIFY(p.session.isOpen(QStringLiteral("RFs_Esq")));
+    }
+
     void languageChange_data()
     {
         QTest::addColumn<quint8>("idioma");
