@@ -3,11 +3,14 @@
 #include "BuckLdo.h"
 #include "BuckTeste.h"
 #include "Inicial.h"
+#include "LinkMenu.h"
 #include "Master.h"
 #include "Session.h"
 #include "Sobre.h"
 #include "VCores.h"
 #include "xIdioma.h"
+
+#include <QMenuBar>
 
 namespace Screens {
 
@@ -36,6 +39,10 @@ void registerAll(Inicial &inicial, Shell &shell)
                            false);
     inicial.registerScreen(12, QStringLiteral("Sobre"), QStringLiteral("Sobre"),
                            [&shell](const ScreenContext &ctx) -> QWidget * { return new Sobre(ctx, shell); });
+    // The maker's pages are one click away from the main window as well as from the about screen.
+    auto *links = new LinkMenu(inicial.context().session, shell, &inicial);
+    inicial.menuBar()->addMenu(links);
+    QObject::connect(&inicial.context().session, &Session::idiomaChanged, links, &LinkMenu::reload);
     inicial.registerScreen(13, QStringLiteral("BuckTeste"), QStringLiteral("Buck Teste"),
                            [](const ScreenContext &ctx) -> QWidget * { return new BuckTeste(ctx); });
 }

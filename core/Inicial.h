@@ -52,6 +52,9 @@ public:
 
     void fillPorts();
 
+    // What the screens get; the menu wiring outside the window needs the session too.
+    const ScreenContext &context() const { return m_context; }
+
 protected:
     void closeEvent(QCloseEvent *event) override;
 

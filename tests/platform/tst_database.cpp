@@ -197,7 +197,9 @@ private slots:
                 QCOMPARE(type, info.value(1).toString() == QLatin1String("TIPO") ? QStringLiteral("INTEGER")
                                                                                  : QStringLiteral("TEXT"));
             }
-            QCOMPARE(present, columns);
+            // Tools carries columns added later; an older file gets them at start-up, so the
+            // start-up check does not demand them.
+            QCOMPARE(present, columns + (table == QLatin1String("Tools") ? Database::toolsTextColumns() : QStringList()));
         }
     }
 
