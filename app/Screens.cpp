@@ -8,6 +8,7 @@
 #include "I2C.h"
 #include "IC.h"
 #include "Inicial.h"
+#include "LinkMenu.h"
 #include "Master.h"
 #include "Nand.h"
 #include "Outros.h"
@@ -20,6 +21,8 @@
 #include "Sobre.h"
 #include "VCores.h"
 #include "xIdioma.h"
+
+#include <QMenuBar>
 
 namespace Screens {
 
@@ -58,6 +61,10 @@ void registerAll(Inicial &inicial, Shell &shell)
                            false);
     inicial.registerScreen(12, QStringLiteral("Sobre"), QStringLiteral("Sobre"),
                            [&shell](const ScreenContext &ctx) -> QWidget * { return new Sobre(ctx, shell); });
+    // The maker's pages are one click away from the main window as well as from the about screen.
+    auto *links = new LinkMenu(inicial.context().session, shell, &inicial);
+    inicial.menuBar()->addMenu(links);
+    QObject::connect(&inicial.context().session, &Session::idiomaChanged, links, &LinkMenu::reload);
     // No menu element of its own: it opens from the Buck / Ldo screen's Botao2.
     inicial.registerScreen(0, QStringLiteral("BuckTeste"), QStringLiteral("Buck Teste"),
                            [](const ScreenContext &ctx) -> QWidget * { return new BuckTeste(ctx); });

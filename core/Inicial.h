@@ -57,6 +57,8 @@ public:
     // there is none).
     static constexpr int CascadeStep = 28;
     static QRect placement(const QSize &wanted, const QSize &minimum, const QSize &area, const QPoint &previous);
+    // What the screens get; the menu wiring outside the window needs the session too.
+    const ScreenContext &context() const { return m_context; }
 
 protected:
     void closeEvent(QCloseEvent *event) override;

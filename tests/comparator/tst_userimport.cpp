@@ -16,7 +16,6 @@
 #include <QSqlRecord>
 #include <QTemporaryDir>
 #include <QtTest>
-#include <unistd.h>
 
 using UserImport::Problem;
 Q_DECLARE_METATYPE(UserImport::Problem)
@@ -279,22 +278,6 @@ private slots:
         QCOMPARE(digest(m_config), before);
     }
 
-    void truncatedSqliteCopy()
-    {
-        QFile f(m_user);
-        QVERIFY(f.open(QIODevice::ReadOnly));
-        const QByteArray whole = f.readAll();
-        f.close();
-        QVERIFY(whole.size() > 4096);
-        QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        f.write(whole.left(whole.size() / 2));
-        f.close();
-        const QByteArray before = digest(m_config);
-        const UserImport::Report report = UserImport::run(m_user, m_config);
-        QVERIFY(!report.ok());
-        QCOMPARE(digest(m_config), before);
-    }
-
     void accessFileOfAnotherSchema()
     {
         if (!QFile::exists(accessFixture()))
@@ -332,17 +315,6 @@ private slots:
             QSqlDatabase::removeDatabase(QStringLiteral("other"));
         }
         QCOMPARE(dump(m_config).contains(QStringLiteral("my answer")), false);
-    }
-
-    void readOnlyConfig()
-    {
-        if (QFileInfo(m_dir.path()).ownerId() == 0 && ::geteuid() == 0)
-            QSKIP("root writes to read-only files");
-        QFile::setPermissions(m_config, QFile::ReadOwner);
-        const QByteArray before = digest(m_config);
-        QCOMPARE(UserImport::run(m_user, m_config).problem, Problem::ConfigFailed);
-        QCOMPARE(digest(m_config), before);
-        QFile::setPermissions(m_config, QFile::ReadOwner | QFile::WriteOwner);
     }
 
     void everyProblemHasItsText()

@@ -5,8 +5,6 @@
 #include "AccessReader.h"
 #include "UserFile.h"
 
-#include <QSqlDatabase>
-#include <QSqlQuery>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -154,44 +152,6 @@ private slots:
         QVERIFY(file.tables().isEmpty());
     }
 
-    void missingFile()
-    {
-        QTemporaryDir dir;
-        UserFile file(dir.filePath(QStringLiteral("User.vkt")));
-        QCOMPARE(file.format(), UserFile::Format::Missing);
-        QCOMPARE(file.problem(), UserFile::Problem::Missing);
-        QVERIFY(!QFile::exists(dir.filePath(QStringLiteral("User.vkt"))));
-    }
-
-    // Both formats answer the same question the same way.
-    void sqliteAndAccessReadAlike()
-    {
-        if (!QFile::exists(fixture()))
-            QSKIP("the shared Access fixture is not beside the project");
-        QTemporaryDir dir;
-        const QString path = dir.filePath(QStringLiteral("User.vkt"));
-        {
-            QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("w"));
-            db.setDatabaseName(path);
-            QVERIFY(db.open());
-            QSqlQuery q(db);
-            QVERIFY(q.exec(QStringLiteral("CREATE TABLE DateTest (IDCol TEXT, ShortTextCol TEXT)")));
-            QVERIFY(q.exec(QStringLiteral("INSERT INTO DateTest VALUES ('1', 'Hello'), ('2', 'Year 1999')")));
-            db.close();
-        }
-        QSqlDatabase::removeDatabase(QStringLiteral("w"));
-        UserFile sqlite(path);
-        UserFile access(fixture());
-        QCOMPARE(sqlite.format(), UserFile::Format::SQLite);
-        QCOMPARE(access.format(), UserFile::Format::Access);
-        const QStringList columns{QStringLiteral("shorttextcol"), QStringLiteral("IDCOL")};
-        const auto a = access.rows(QStringLiteral("DateTest"), columns);
-        const auto s = sqlite.rows(QStringLiteral("datetest"), columns);
-        QVERIFY(a && s);
-        QCOMPARE(a->mid(0, 2), *s);
-        QCOMPARE(sqlite.rows(QStringLiteral("DateTest"), {QStringLiteral("Nope")}), std::nullopt);
-        QVERIFY(sqlite.lastError().contains(QStringLiteral("Nope")));
-    }
 };
 
 QTEST_MAIN(TestAccessReader)
