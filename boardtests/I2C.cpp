@@ -36,16 +36,14 @@ I2C::I2C(const ScreenContext &context, Shell &shell, QWidget *parent)
     bar.setColor(QPalette::Window, QColor(0x00, 0xC0, 0x00));
     ui->Barra->setPalette(bar);
 
-    const QList<std::pair<QTimer *, int>> timers = {{&m_timer1, Timer1IntervalMs},
-                                                    {&m_timerAuto, TimerAutoIntervalMs},
-                                                    {&m_timerBarra, TimerBarraIntervalMs},
-                                                    {&m_timerAguarde, TimerAguardeIntervalMs}};
-    const QStringList names = {QStringLiteral("Timer1"), QStringLiteral("TimerAuto"), QStringLiteral("TimerBarra"),
-                               QStringLiteral("TimerAguarde")};
-    for (int i = 0; i < timers.size(); ++i) {
-        timers[i].first->setObjectName(names[i]);
-        timers[i].first->setInterval(timers[i].second);
-    }
+    const auto setUp = [](QTimer &timer, const char *name, int intervalMs) {
+        timer.setObjectName(QLatin1String(name));
+        timer.setInterval(intervalMs);
+    };
+    setUp(m_timer1, "Timer1", Timer1IntervalMs);
+    setUp(m_timerAuto, "TimerAuto", TimerAutoIntervalMs);
+    setUp(m_timerBarra, "TimerBarra", TimerBarraIntervalMs);
+    setUp(m_timerAguarde, "TimerAguarde", TimerAguardeIntervalMs);
     connect(&m_timer1, &QTimer::timeout, this, &I2C::onTimer1);
     connect(&m_timerAuto, &QTimer::timeout, this, &I2C::onTimerAuto);
     connect(&m_timerBarra, &QTimer::timeout, this, &I2C::onTimerBarra);
@@ -269,11 +267,6 @@ void I2C::stopBarra()
 {
     m_timerBarra.stop();
     ui->ProgressBar->setVisible(false);
-}
-
-int I2C::barraWidth() const
-{
-    return ui->Barra->width();
 }
 
 void I2C::onTimerBarra()

@@ -53,11 +53,7 @@ public:
     QTimer &timerAuto() { return m_timerAuto; }
     QTimer &timerBarra() { return m_timerBarra; }
     QTimer &timerAguarde() { return m_timerAguarde; }
-    int timer1Ticks() const { return m_timer1Ticks; }
-    int barraWidth() const;
     bool autoRunning() const { return m_autoRunning; }
-    bool cancelOffered() const { return m_cancelCaption; }
-    int currentBus() const { return m_currentBus; }
 
 private:
     void probe(int bus);

@@ -43,8 +43,6 @@ public:
 
     QTimer &timerStatus() { return m_timerStatus; }
     QTimer &timerAguarde() { return m_timerAguarde; }
-    int timerStatusTicks() const { return m_ticks; }
-    int checkKind() const { return m_kind; }
     QSqlQueryModel *Data1() const { return m_data1; }
 
 private:
