@@ -43,10 +43,12 @@ JudgeReport judgeNandSize(const QString &model, const QString &answer)
     JudgeReport report;
     report.engine = QStringLiteral("nand-size");
     report.model = model;
-    const bool cut = size.outcome == NandEngine::Size::Outcome::Read || size.outcome == NandEngine::Size::Outcome::TooLong;
-    report.rows.append({QStringLiteral("lbNand"), cut ? QJsonValue(size.sizeText) : QJsonValue(),
-                        QStringLiteral("NAND ") + caption, QJsonValue(), NandEngine::sizeVerdict(size)});
+    // The size line has no label of its own: it is cut between the first ":" and the prompt.
+    report.rows.append({QStringLiteral("lbNand"), QJsonValue(), QStringLiteral("NAND ") + caption, QJsonValue(),
+                        NandEngine::sizeVerdict(size)});
     report.extra = {{QStringLiteral("outcome"), outcomeName(size.outcome)}};
+    if (size.outcome == NandEngine::Size::Outcome::Read || size.outcome == NandEngine::Size::Outcome::TooLong)
+        report.extra.insert(QStringLiteral("sizeText"), size.sizeText);
     if (size.outcome == NandEngine::Size::Outcome::Read) {
         report.extra.insert(QStringLiteral("megas"), size.megas);
         report.extra.insert(QStringLiteral("classGb"), size.classGb > 0 ? QJsonValue(size.classGb) : QJsonValue());

@@ -93,26 +93,16 @@ private slots:
         const auto status = [](int mode) { return QStringList{"nand-status", "--mode", QString::number(mode)}; };
         const auto outros = [](int mode) { return QStringList{"outros", "--mode", QString::number(mode)}; };
         QTest::newRow("size IP 7") << size << "IP 7" << simAnswer("IP 7", "nandsize") << 0 << "NAND 128 GB" << "pass" << "";
-        QTest::newRow("size IP 7 Plus") << size << "IP 7 Plus" << simAnswer("IP 7 Plus", "nandsize") << 0
-                                        << "NAND 256 GB" << "pass" << "";
         QTest::newRow("size IP 6") << size << "IP 6" << simAnswer("IP 6", "nandsize") << 1
                                    << "NAND Não disponível para 6/6P" << "none" << "";
         QTest::newRow("size between classes") << size << "IP 7" << console("nandsize", "size in KiB:3B9ACA") << 1
                                               << "NAND 3 GB APROX." << "fail" << "";
-        QTest::newRow("size text of 52") << size << "IP 7"
-                                         << console("nandsize", "size in KiB:" + QString(45, u' ') + "8000000") << 1
-                                         << "NAND Tamanho não identificado" << "none" << "";
         QTest::newRow("uid IP 7") << status(0) << "IP 7" << simAnswer("IP 7", "nanduid") << 0 << "" << "" << "COMUNICAÇÃO OK";
         QTest::newRow("syscfg list IP X") << status(3) << "IP X" << simAnswer("IP X", "syscfg list") << 0 << "" << ""
                                           << "COMUNICAÇÃO OK";
-        QTest::newRow("info failed") << status(2) << "IP 8" << console("nand --getinfo", "nand --getinfo Failed: timeout")
-                                     << 1 << "" << "" << "COMUNICAÇÃO OFF";
         QTest::newRow("uid IP 6") << status(0) << "IP 6" << simAnswer("IP 6", "nanduid") << 1 << "" << "" << "";
-        QTest::newRow("no answer") << status(1) << "IP 7" << QStringLiteral("\r\n") << 1 << "" << "" << "";
         QTest::newRow("DRAM IP 7") << outros(5) << "IP 7" << simAnswer("IP 7", "testmemory") << 0 << "" << ""
                                    << "COMUNICAÇÃO OK";
-        QTest::newRow("DRAM 1MB IP X") << outros(6) << "IP X" << simAnswer("IP X", "testmemory --1MB") << 0 << "" << ""
-                                       << "COMUNICAÇÃO OK";
         QTest::newRow("DRAM failed") << outros(5) << "IP 7" << console("testmemory", "memory test walking-1 FAILED")
                                      << 1 << "" << "" << "COMUNICAÇÃO OFF";
         QTest::newRow("Tristar is not judged") << outros(1) << "IP 7" << simAnswer("IP 7", "tristar -p") << 1 << "" << ""

@@ -409,20 +409,6 @@ private slots:
         QVERIFY(!shown(&screen, "ok") && !shown(&screen, "no"));
     }
 
-    void outrosOpensBattery()
-    {
-        Rig rig;
-        QStringList opened;
-        Outros screen(rig.context, rig.shell, [&](const QString &name) -> QWidget * {
-            opened << name;
-            return nullptr;
-        });
-        Rig::child<QPushButton>(&screen, "btBateria")->click();
-        QCOMPARE(opened, QStringList{QStringLiteral("Bateria")});
-        Outros alone(rig.context, rig.shell);
-        QVERIFY(!shown(&alone, "btBateria"));
-    }
-
     void bateria()
     {
         Rig rig;
