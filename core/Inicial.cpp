@@ -12,6 +12,7 @@
 #include <QMdiSubWindow>
 #include <QPainter>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTextCursor>
 
@@ -65,9 +66,10 @@ Inicial::Inicial(const ScreenContext &context, ConnectionController &connection,
     connect(&m_context.session, &Session::connectionFlagChanged, this, &Inicial::paintConnectionState);
     connect(&m_context.session, &Session::idiomaChanged, this, &Inicial::Traducao_Form_Inicial);
     connect(&m_ports, &PortList::changed, this, &Inicial::fillPorts);
-    connect(ui->cbPortas, &QComboBox::activated, this, [this](int index) {
+    // Whatever selects a port (the technician, a script, a test) makes it the chosen device.
+    connect(ui->cbPortas, &QComboBox::currentIndexChanged, this, [this](int index) {
         const auto entries = m_ports.ports();
-        if (index >= 0 && index < entries.size())
+        if (!m_fillingPorts && index >= 0 && index < entries.size())
             m_chosenPort = entries.at(index);
     });
     wireConnection();
@@ -229,9 +231,7 @@ void Inicial::paintConnectionState()
     ui->lbConexao->setText(s.Traduz(m_connectionLost ? QStringLiteral("Conexão perdida")
                                                      : ConnectionController::labelKey(flag)));
     // The button says what the controller says: "Conectando" lasts until the phone is validated,
-    // although the flag is "1" as soon as the first answer ended. Disconnected is always "Conectar".
-    if (flag == QLatin1String("0"))
-        m_connectKey = QStringLiteral("Conectar");
+    // although the flag is "1" as soon as the first answer ended.
     ui->Botoes_1->setText(s.Traduz(m_connectKey));
     ui->Botoes_1->setToolTip(s.Traduz(m_connectKey));
 }
@@ -258,6 +258,7 @@ void Inicial::selectModel(const QString &modelo)
 
 void Inicial::fillPorts()
 {
+    const QScopedValueRollback filling(m_fillingPorts, true);
     ui->cbPortas->clear();
     const auto entries = m_ports.ports();
     for (const PortEntry &e : entries) {

@@ -80,4 +80,5 @@ private:
     QString m_connectKey = QStringLiteral("Conectar"); // the connect button's caption key
     std::optional<PortEntry> m_chosenPort; // the device selected in cbPortas, kept while it is away
     bool m_connectionLost = false;         // the status line says so until the next connection
+    bool m_fillingPorts = false;           // cbPortas is being refilled, not chosen from
 };
