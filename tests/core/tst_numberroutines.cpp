@@ -124,7 +124,7 @@ private slots:
     }
 
     // The number behind the text, uncut: what verdicts are taken from.
-    void desvioPercentual_data()
+    void deviationNumber_data()
     {
         QTest::addColumn<QString>("reading");
         QTest::addColumn<QString>("reference");
@@ -136,7 +136,7 @@ private slots:
         QTest::newRow("text cut to 1,3") << "135000000000000000" << "1.000" << 1.35e16;
         QTest::newRow("band against zero") << "0.002" << "0" << 0.2;
     }
-    void desvioPercentual()
+    void deviationNumber()
     {
         QFETCH(QString, reading);
         QFETCH(QString, reference);
