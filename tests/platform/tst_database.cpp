@@ -339,7 +339,8 @@ private slots:
             Database db(old);
             QVERIFY(db.comandoExists(QStringLiteral("NAND --GETINFO")));
             QVERIFY(db.dadosRecord(QStringLiteral("ip 7"), QStringLiteral("NAND --GETINFO")));
-            QCOMPARE(db.maskTexts().mid(0, 2), (QStringList{"ABCD", "abc"}));
+            const QStringList masks = db.maskTexts();
+            QVERIFY(masks.indexOf(QStringLiteral("ABCD")) < masks.indexOf(QStringLiteral("abc")));
             QCOMPARE(db.allDados(), before);
             QVERIFY(db.masterRow(QStringLiteral("IP 7"), QStringLiteral("pp_cpu")));
         }
