@@ -49,6 +49,7 @@ private slots:
         ConsoleExchange exchange(session, port);
         FakeDialogs dialogs;
         session.setConnectionFlag(QStringLiteral("1"));
+        session.setConnectionValidated(true); // the port was opened by hand: the phone is known
         {
             VCores screen({session, exchange, dialogs});
             screen.ExecutaLeitura();
