@@ -81,6 +81,21 @@ private slots:
         QVERIFY2(run.lines.contains(QStringLiteral("Model number: ") + modelNumber), qPrintable(describe(run)));
     }
 
+    // A database that cannot be read is said as such, naming the file, not as an unknown model.
+    void identifyNamesAnUnreadableDatabase()
+    {
+        SimProcess phone;
+        const QString started = phone.start(QStringLiteral("IP 7"), QStringLiteral("good"));
+        QVERIFY2(started.isEmpty(), qPrintable(started));
+        const QString notADatabase = QStringLiteral(VEKTO_SOURCE_DIR "/README.md");
+        const CliRun run = runCli({QStringLiteral("identify"), QStringLiteral("--port"), phone.port(),
+                                   QStringLiteral("--db"), notADatabase});
+        QVERIFY2(run.exitCode == 2, qPrintable(describe(run)));
+        QVERIFY2(run.errors.contains(QStringLiteral("cannot read the database ") + notADatabase
+                                     + QStringLiteral(": file is not a database")),
+                 qPrintable(describe(run)));
+    }
+
     void identifyGivesUpOnASilentPhone()
     {
         SimProcess phone;
