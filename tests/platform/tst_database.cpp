@@ -632,6 +632,20 @@ private slots:
         QVERIFY(db.setIdioma(3));
     }
 
+    // A query that cannot be prepared keeps its own reason; running it anyway would only say
+    // "No query Unable to fetch row".
+    void failedPrepareKeepsItsReason()
+    {
+        {
+            RawConnection raw(m_path);
+            QVERIFY(raw.exec(QStringLiteral("DROP TABLE M")));
+        }
+        Database db(m_path, Database::Access::ReadOnly);
+        QVERIFY(db.maskTexts().isEmpty());
+        QVERIFY2(db.lastError().startsWith(QStringLiteral("no such table: M")), qPrintable(db.lastError()));
+        QVERIFY(!db.lastError().contains(QStringLiteral("fetch row")));
+    }
+
     void missingFileIsNeverCreated()
     {
         const QString missing = m_dir.filePath(QStringLiteral("absent.vkt"));
