@@ -61,6 +61,10 @@ int identify(const QStringList &args)
         out(*model);
         return 0;
     }
+    if (!live.databaseError().isEmpty()) {
+        err(live.databaseError());
+        return UnreadableFile;
+    }
     if (live.lost())
         err(QStringLiteral("the device on %1 vanished").arg(portName));
     if (!anyMessage)

@@ -13,7 +13,14 @@ LiveExchange::LiveExchange(const QString &dbPath)
     , m_exchange(m_session, m_port)
     , m_controller(m_session, m_exchange, m_port)
 {
-    m_controller.setModelLookup([dbPath](const QString &number) { return Database(dbPath).modeloRef(number); });
+    m_controller.setModelLookup([this](const QString &number) {
+        Database db(m_dbPath, Database::Access::ReadOnly);
+        const std::optional<QString> ref = db.modeloRef(number);
+        // A file that cannot be read is not an unknown model: its reason is kept for the caller.
+        if (!db.lastError().isEmpty())
+            m_databaseError = Cli::databaseProblem(m_dbPath, db.lastError());
+        return ref;
+    });
     QObject::connect(&m_port, &SerialPort::lost, &m_controller, [this] { m_lost = true; });
 }
 

@@ -34,6 +34,8 @@ public:
     std::optional<QString> exchange(const QString &command);
 
     bool lost() const { return m_lost; }
+    // Why the model could not be looked up in the database (naming the file); empty when it could.
+    const QString &databaseError() const { return m_databaseError; }
     Session &session() { return m_session; }
     const QString &modelNumber() const { return m_modelNumber; }
 
@@ -44,5 +46,6 @@ private:
     ConsoleExchange m_exchange;
     ConnectionController m_controller;
     QString m_modelNumber;
+    QString m_databaseError;
     bool m_lost = false;
 };

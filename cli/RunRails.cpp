@@ -28,6 +28,10 @@ int runRunRails(const QStringList &args, QTextStream &out, QTextStream &err)
     LiveExchange live(options->db);
     if (options->model == QLatin1String("auto")) {
         const auto model = live.recogniseModel(portName);
+        if (!model && !live.databaseError().isEmpty()) {
+            err << live.databaseError() << u'\n';
+            return Cli::UnreadableFile;
+        }
         if (!model) {
             err << (live.lost() ? QStringLiteral("the device on %1 vanished").arg(portName)
                                 : QStringLiteral("the model could not be recognised; give it with --model"))

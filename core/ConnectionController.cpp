@@ -96,6 +96,7 @@ void ConnectionController::onPortLost()
         return;
     disconnectPort();
     m_exchange.restoreCaption();
+    emit connectionLost();
     emit refillPorts();
 }
 

@@ -65,6 +65,7 @@ signals:
     void refillPorts();
     void connected(); // the device answered: waiting screens may enable their start buttons
     void disconnected();
+    void connectionLost(); // the cable was pulled or the device vanished: said once, after disconnected()
     void connectionLabelChanged(const QString &key); // follows the session's connection flag
 
 private:

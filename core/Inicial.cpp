@@ -12,6 +12,7 @@
 #include <QMdiSubWindow>
 #include <QPainter>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTextCursor>
 
@@ -72,6 +73,12 @@ Inicial::Inicial(const ScreenContext &context, ConnectionController &connection,
     connect(&m_context.session, &Session::connectionFlagChanged, &m_ports,
             [this](const QString &flag) { m_ports.setWatching(flag == QLatin1String("0")); });
     m_ports.setWatching(m_context.session.connectionFlag() == QLatin1String("0"));
+    // Whatever selects a port (the technician, a script, a test) makes it the chosen device.
+    connect(ui->cbPortas, &QComboBox::currentIndexChanged, this, [this](int index) {
+        const auto entries = m_ports.ports();
+        if (!m_fillingPorts && index >= 0 && index < entries.size())
+            m_chosenPort = entries.at(index);
+    });
     wireConnection();
 
     // Main window load: translate, light white, title with the version, ports, counter at zero.
@@ -120,6 +127,11 @@ void Inicial::wireConnection()
     });
     connect(&m_connection, &ConnectionController::message, this, [this](const QString &key, const QString &porta) {
         m_context.dialogs.Mensagem(this, key, m_context.session.idioma(), porta);
+    });
+    // A pulled cable is said on the status line until the next connection; the readings stay.
+    connect(&m_connection, &ConnectionController::connectionLost, this, [this] {
+        m_connectionLost = true;
+        paintConnectionState();
     });
     // After a failed or lost connection the list is scanned afresh: a pulled box must not stay listed.
     connect(&m_connection, &ConnectionController::refillPorts, this, [this] {
@@ -250,11 +262,12 @@ void Inicial::paintConnectionState()
 {
     const Session &s = m_context.session;
     const QString flag = s.connectionFlag();
-    ui->lbConexao->setText(s.Traduz(ConnectionController::labelKey(flag)));
+    if (flag != QLatin1String("0"))
+        m_connectionLost = false;
+    ui->lbConexao->setText(s.Traduz(m_connectionLost ? QStringLiteral("Conexão perdida")
+                                                     : ConnectionController::labelKey(flag)));
     // The button says what the controller says: "Conectando" lasts until the phone is validated,
-    // although the flag is "1" as soon as the first answer ended. Disconnected is always "Conectar".
-    if (flag == QLatin1String("0"))
-        m_connectKey = QStringLiteral("Conectar");
+    // although the flag is "1" as soon as the first answer ended.
     ui->Botoes_1->setText(s.Traduz(m_connectKey));
     ui->Botoes_1->setToolTip(s.Traduz(m_connectKey));
 }
@@ -281,16 +294,19 @@ void Inicial::selectModel(const QString &modelo)
 
 void Inicial::fillPorts()
 {
-    const QString current = ui->cbPortas->currentData().toString();
+    const QScopedValueRollback filling(m_fillingPorts, true);
     ui->cbPortas->clear();
     const auto entries = m_ports.ports();
     for (const PortEntry &e : entries) {
         ui->cbPortas->addItem(e.displayText, e.portName);
         ui->cbPortas->setItemData(ui->cbPortas->count() - 1, e.numberText, PortNumberRole);
     }
-    // Keep the technician's choice across a refresh; otherwise the last (highest) port.
-    const int keep = ui->cbPortas->findData(current);
-    ui->cbPortas->setCurrentIndex(keep >= 0 ? keep : ui->cbPortas->count() - 1);
+    // The device chosen before, when it is there (again); none when it is not, so the next
+    // Conectar can never join another board. Nothing chosen yet: the last (highest) port.
+    const int at = PortList::reselect(entries, m_chosenPort);
+    ui->cbPortas->setCurrentIndex(at);
+    if (at >= 0)
+        m_chosenPort = entries.at(at);
 }
 
 void Inicial::gravaUltimo()

@@ -3,16 +3,17 @@
 // menu of test screens. Which screens exist is decided by whoever builds the program: each one
 // is registered with its menu element, so a screen not built yet is simply absent from the menu.
 
+#include "PortList.h"
 #include "TestScreen.h"
 
 #include <QMainWindow>
 #include <QMap>
 #include <QPointer>
 #include <functional>
+#include <optional>
 
 namespace Ui { class Inicial; }
 class ConnectionController;
-class PortList;
 class QMdiSubWindow;
 class QPushButton;
 
@@ -86,4 +87,7 @@ private:
     QMap<QString, Registration> m_screens;
     QString m_status;
     QString m_connectKey = QStringLiteral("Conectar"); // the connect button's caption key
+    std::optional<PortEntry> m_chosenPort; // the device selected in cbPortas, kept while it is away
+    bool m_connectionLost = false;         // the status line says so until the next connection
+    bool m_fillingPorts = false;           // cbPortas is being refilled, not chosen from
 };

@@ -166,7 +166,7 @@ bool Database::deleteDados(const QString &aparelho, const QString &comando)
 
 QStringList Database::maskTexts()
 {
-    return firstColumn(QStringLiteral("SELECT String FROM M ORDER BY String COLLATE NOCASE DESC, String DESC"));
+    return firstColumn(QStringLiteral("SELECT String FROM M ORDER BY String COLLATE NOCASE DESC, String COLLATE BINARY DESC"));
 }
 
 bool Database::addMaskText(const QString &text)

@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QSerialPortInfo>
 #include <algorithm>
+#include <functional>
 
 #ifdef Q_OS_WIN
 #include <windows.h>
@@ -136,7 +137,7 @@ QList<PortEntry> PortList::comPorts()
         DWORD size = sizeof config;
         if (GetDefaultCommConfigW(name.c_str(), &config, &size)) {
             const QString number = QString::number(n);
-            ports.append({QStringLiteral("COM") + number, number, number, {}});
+            ports.append({QStringLiteral("COM") + number, number, number, {}, {}});
         }
     }
 #endif
@@ -159,7 +160,7 @@ QList<PortEntry> PortList::serialDevices()
         const QString path = info.systemLocation();
         const QString description = about.join(QStringLiteral(", "));
         const QString display = description.isEmpty() ? path : path + QStringLiteral(" — ") + description;
-        ports.append({path, display, deviceName(path), description});
+        ports.append({path, display, deviceName(path), description, info.serialNumber()});
     }
     std::sort(ports.begin(), ports.end(),
               [](const PortEntry &a, const PortEntry &b) { return a.portName < b.portName; });
@@ -203,7 +204,36 @@ QList<PortEntry> PortList::simulatorPorts(const QString &folder)
         QString description = lines.value(1).trimmed();
         if (description.isEmpty())
             description = QStringLiteral("vekto-sim");
-        ports.append({path, path + QStringLiteral(" — ") + description, deviceName(path), description});
+        ports.append({path, path + QStringLiteral(" — ") + description, deviceName(path), description, {}});
     }
     return ports;
+}
+
+int PortList::reselect(const QList<PortEntry> &ports, const std::optional<PortEntry> &chosen)
+{
+    if (!chosen)
+        return int(ports.size()) - 1;
+    const auto indexWhere = [&ports](const std::function<bool(const PortEntry &)> &same) {
+        for (int i = 0; i < ports.size(); ++i)
+            if (same(ports.at(i)))
+                return i;
+        return -1;
+    };
+    if (!chosen->serialNumber.isEmpty())
+        return indexWhere([&](const PortEntry &e) { return e.serialNumber == chosen->serialNumber; });
+    if (!chosen->description.isEmpty()) {
+        // A box that comes back may get another device name; two alike boxes cannot be told
+        // apart, so only the same name, or the one box of that description, is the same device.
+        const int sameName = indexWhere([&](const PortEntry &e) {
+            return e.description == chosen->description && e.portName == chosen->portName;
+        });
+        if (sameName >= 0)
+            return sameName;
+        const auto alike = std::count_if(ports.begin(), ports.end(),
+                                         [&](const PortEntry &e) { return e.description == chosen->description; });
+        if (alike != 1)
+            return -1;
+        return indexWhere([&](const PortEntry &e) { return e.description == chosen->description; });
+    }
+    return indexWhere([&](const PortEntry &e) { return e.portName == chosen->portName; });
 }

@@ -10,6 +10,7 @@
 #include <QObject>
 #include <QString>
 #include <QTimer>
+#include <optional>
 
 struct PortEntry
 {
@@ -17,6 +18,7 @@ struct PortEntry
     QString displayText; // what the port list shows
     QString numberText;  // the COM number on Windows (for the messages); the device name elsewhere
     QString description; // what the device says it is (USB vendor/product, simulated model)
+    QString serialNumber; // the USB serial number, when the device has one
 
     friend bool operator==(const PortEntry &, const PortEntry &) = default;
 };
@@ -60,6 +62,12 @@ public:
     // The text the messages use for a port given by name: "5" for "COM5", "ttyUSB0" for
     // "/dev/ttyUSB0".
     static QString numberTextFor(const QString &portName);
+
+    // Which entry of a fresh list to select when `chosen` was selected before: the same device
+    // (same USB serial number; without one, the same description; without either, the same
+    // port name), or -1 when it is not there, since another board must never be picked for the
+    // technician. With nothing chosen yet, the last entry, as at start (-1 for an empty list).
+    static int reselect(const QList<PortEntry> &ports, const std::optional<PortEntry> &chosen);
 
 signals:
     void changed();

@@ -210,6 +210,7 @@ MasterFilter RailScreen::gridFilter() const
 
 void RailScreen::bindGrid(const MasterFilter &filter)
 {
+    m_shownFilter = filter;
     m_data1->setQuery(m_db->masterQuery(filter));
     while (m_data1->canFetchMore())
         m_data1->fetchMore();
@@ -257,6 +258,7 @@ void RailScreen::ExecutaLeitura()
 {
     if (m_reading || !session().validatedAndIdle())
         return;
+    keepReadings();
     LimpaLeituras();
     MontaConsultaGrade();
     IniciaLeitura();
@@ -290,6 +292,7 @@ void RailScreen::onTimer1()
         // A pulled cable or a wait far beyond the longest answer: give the screen back as it was.
         if (session().connectionFlag() == QLatin1String("0") || m_timer1Ticks > Timer1TickLimit) {
             m_timer1.stop();
+            restoreReadings();
             finishWaiting();
         }
         return;
@@ -304,6 +307,8 @@ void RailScreen::ProcessaLeituras()
 {
     const QString answer = exchange().console();
     if (answer.isEmpty()) {
+        restoreReadings(); // nothing to read: the grid stays as it was
+
         ui->ComboDecimais->setEnabled(true);
         ui->ComboDecimaisAmp->setEnabled(true);
         ui->FrameVCore->setVisible(false);
@@ -312,6 +317,7 @@ void RailScreen::ProcessaLeituras()
         m_timer2.stop();
         return;
     }
+    m_keptReadings.clear(); // the answer is here: from now on the new reading stands
     LimpaLeituras();
     MasterFilter filter;
     filter.modelo = session().modelo();
@@ -329,6 +335,24 @@ void RailScreen::ProcessaLeituras()
         storeFailed();
     ui->ComboDecimais->setEnabled(true);
     ui->ComboDecimaisAmp->setEnabled(true);
+}
+
+void RailScreen::keepReadings()
+{
+    m_keptReadings.clear();
+    for (const MasterRow &row : m_db->masterRows(MasterFilter{}))
+        if (!row.leitura.isEmpty() || !row.porc.isEmpty())
+            m_keptReadings.append({row.modelo, row.malha, row.leitura, row.porc});
+}
+
+void RailScreen::restoreReadings()
+{
+    // A reading that never got its answer (a pulled cable, a wait given up) must not leave the
+    // grid emptier than it found it: the readings wiped at its start are put back.
+    if (!m_keptReadings.isEmpty() && !m_db->writeReadings(m_keptReadings))
+        storeFailed();
+    m_keptReadings.clear();
+    MontaConsultaGrade();
 }
 
 void RailScreen::onTimer2()
@@ -388,7 +412,8 @@ void RailScreen::gravar(int slot)
     if (!dialogs().question(this, Traduz(QStringLiteral("Gravar")),
                             Traduz(QStringLiteral("Deseja salvar?")) + slotName(slot)))
         return;
-    if (!m_db->recordReadings(slot, gridFilter()))
+    // Exactly the rows the grid shows, whichever query last filled it (a model change shows all).
+    if (!m_db->recordReadings(slot, m_shownFilter))
         storeFailed();
     MontaConsultaGrade();
     m_saved = true;
@@ -399,7 +424,7 @@ void RailScreen::excluir(int slot)
     if (!dialogs().question(this, Traduz(QStringLiteral("Excluir")),
                             Traduz(QStringLiteral("Deseja excluir os dados gravados?")) + slotName(slot)))
         return;
-    if (!m_db->clearRecordings(slot, gridFilter()))
+    if (!m_db->clearRecordings(slot, m_shownFilter))
         storeFailed();
     MontaConsultaGrade();
 }

@@ -92,11 +92,15 @@ private:
     void restartIfIdle();
     void storeFailed();
     QString slotName(int slot) const;
+    void keepReadings();
+    void restoreReadings();
 
     std::unique_ptr<Ui::RailScreen> ui;
     RailScreenKind m_kind;
     std::unique_ptr<Database> m_db; // one connection for the bound grid and the writes
     QSqlQueryModel *m_data1 = nullptr;
+    MasterFilter m_shownFilter; // the rows the grid shows: what Gravar and Excluir act on
+    QList<RailReading> m_keptReadings; // the readings wiped at the start of the running reading
     QTimer m_timer1;
     QTimer m_timer2;
     QTimer m_timerBarra;

@@ -8,591 +8,6 @@ replace('
 Button count test ended
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6', 'BUTTONCNT --DQE',
-replace('
-BUTTONCNT --DQE', char(10), char(13, 10)) || char(13) || replace('
-Button count test running, results on the device screen
-Send /q to quit
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6', 'Help',
-replace('
-Help', char(10), char(13, 10)) || char(13) || replace('
-Available commands (type <command> --help for options):
-  accel          diagnostics command accel: run, read or control the accel block of the board
-  als            diagnostics command als: run, read or control the als block of the board
-  audio          diagnostics command audio: run, read or control the audio block of the board
-  baseband       diagnostics command baseband: run, read or control the baseband block of the board
-  battery        diagnostics command battery: run, read or control the battery block of the board
-  bl             diagnostics command bl: run, read or control the bl block of the board
-  bluetooth      diagnostics command bluetooth: run, read or control the bluetooth block of the board
-  buck           diagnostics command buck: run, read or control the buck block of the board
-  buckcheck      diagnostics command buckcheck: run, read or control the buckcheck block of the board
-  buttoncnt      diagnostics command buttoncnt: run, read or control the buttoncnt block of the board
-  camisp         diagnostics command camisp: run, read or control the camisp block of the board
-  charge         diagnostics command charge: run, read or control the charge block of the board
-  compass        diagnostics command compass: run, read or control the compass block of the board
-  consoleinit    diagnostics command consoleinit: run, read or control the consoleinit block of the board
-  device         diagnostics command device: run, read or control the device block of the board
-  diags          diagnostics command diags: run, read or control the diags block of the board
-  display        diagnostics command display: run, read or control the display block of the board
-  dock           diagnostics command dock: run, read or control the dock block of the board
-  exit           diagnostics command exit: run, read or control the exit block of the board
-  gps            diagnostics command gps: run, read or control the gps block of the board
-  gyro           diagnostics command gyro: run, read or control the gyro block of the board
-  help           diagnostics command help: run, read or control the help block of the board
-  hydra          diagnostics command hydra: run, read or control the hydra block of the board
-  i2c            diagnostics command i2c: run, read or control the i2c block of the board
-  mic            diagnostics command mic: run, read or control the mic block of the board
-  nand           diagnostics command nand: run, read or control the nand block of the board
-  nandsize       diagnostics command nandsize: run, read or control the nandsize block of the board
-  nanduid        diagnostics command nanduid: run, read or control the nanduid block of the board
-  pmuadc         diagnostics command pmuadc: run, read or control the pmuadc block of the board
-  pmureg         diagnostics command pmureg: run, read or control the pmureg block of the board
-  prox           diagnostics command prox: run, read or control the prox block of the board
-  reset          diagnostics command reset: run, read or control the reset block of the board
-  rtc            diagnostics command rtc: run, read or control the rtc block of the board
-  sensor         diagnostics command sensor: run, read or control the sensor block of the board
-  shutdown       diagnostics command shutdown: run, read or control the shutdown block of the board
-  smokey         diagnostics command smokey: run, read or control the smokey block of the board
-  soc            diagnostics command soc: run, read or control the soc block of the board
-  speaker        diagnostics command speaker: run, read or control the speaker block of the board
-  syscfg         diagnostics command syscfg: run, read or control the syscfg block of the board
-  temp           diagnostics command temp: run, read or control the temp block of the board
-  testmemory     diagnostics command testmemory: run, read or control the testmemory block of the board
-  touch          diagnostics command touch: run, read or control the touch block of the board
-  tristar        diagnostics command tristar: run, read or control the tristar block of the board
-  usb            diagnostics command usb: run, read or control the usb block of the board
-  version        diagnostics command version: run, read or control the version block of the board
-  vibrator       diagnostics command vibrator: run, read or control the vibrator block of the board
-  wifi           diagnostics command wifi: run, read or control the wifi block of the board
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6', 'Reset',
-replace('
-Reset', char(10), char(13, 10)) || char(13) || replace('
-Resetting device...
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6', 'TESTMEMORY --1MB',
-replace('
-TESTMEMORY --1MB', char(10), char(13, 10)) || char(13) || replace('
-testmemory 1MB read/write, 256 blocks of 4 KiB
-block   0 addr 0x800000000 pattern 0x55555555 write ok read ok
-block   0 addr 0x800000000 pattern 0xAAAAAAAA write ok read ok
-block   1 addr 0x800001000 pattern 0x55555555 write ok read ok
-block   1 addr 0x800001000 pattern 0xAAAAAAAA write ok read ok
-block   2 addr 0x800002000 pattern 0x55555555 write ok read ok
-block   2 addr 0x800002000 pattern 0xAAAAAAAA write ok read ok
-block   3 addr 0x800003000 pattern 0x55555555 write ok read ok
-block   3 addr 0x800003000 pattern 0xAAAAAAAA write ok read ok
-block   4 addr 0x800004000 pattern 0x55555555 write ok read ok
-block   4 addr 0x800004000 pattern 0xAAAAAAAA write ok read ok
-block   5 addr 0x800005000 pattern 0x55555555 write ok read ok
-block   5 addr 0x800005000 pattern 0xAAAAAAAA write ok read ok
-block   6 addr 0x800006000 pattern 0x55555555 write ok read ok
-block   6 addr 0x800006000 pattern 0xAAAAAAAA write ok read ok
-block   7 addr 0x800007000 pattern 0x55555555 write ok read ok
-block   7 addr 0x800007000 pattern 0xAAAAAAAA write ok read ok
-block   8 addr 0x800008000 pattern 0x55555555 write ok read ok
-block   8 addr 0x800008000 pattern 0xAAAAAAAA write ok read ok
-block   9 addr 0x800009000 pattern 0x55555555 write ok read ok
-block   9 addr 0x800009000 pattern 0xAAAAAAAA write ok read ok
-block  10 addr 0x80000A000 pattern 0x55555555 write ok read ok
-block  10 addr 0x80000A000 pattern 0xAAAAAAAA write ok read ok
-block  11 addr 0x80000B000 pattern 0x55555555 write ok read ok
-block  11 addr 0x80000B000 pattern 0xAAAAAAAA write ok read ok
-block  12 addr 0x80000C000 pattern 0x55555555 write ok read ok
-block  12 addr 0x80000C000 pattern 0xAAAAAAAA write ok read ok
-block  13 addr 0x80000D000 pattern 0x55555555 write ok read ok
-block  13 addr 0x80000D000 pattern 0xAAAAAAAA write ok read ok
-block  14 addr 0x80000E000 pattern 0x55555555 write ok read ok
-block  14 addr 0x80000E000 pattern 0xAAAAAAAA write ok read ok
-block  15 addr 0x80000F000 pattern 0x55555555 write ok read ok
-block  15 addr 0x80000F000 pattern 0xAAAAAAAA write ok read ok
-block  16 addr 0x800010000 pattern 0x55555555 write ok read ok
-block  16 addr 0x800010000 pattern 0xAAAAAAAA write ok read ok
-block  17 addr 0x800011000 pattern 0x55555555 write ok read ok
-block  17 addr 0x800011000 pattern 0xAAAAAAAA write ok read ok
-block  18 addr 0x800012000 pattern 0x55555555 write ok read ok
-block  18 addr 0x800012000 pattern 0xAAAAAAAA write ok read ok
-block  19 addr 0x800013000 pattern 0x55555555 write ok read ok
-block  19 addr 0x800013000 pattern 0xAAAAAAAA write ok read ok
-block  20 addr 0x800014000 pattern 0x55555555 write ok read ok
-block  20 addr 0x800014000 pattern 0xAAAAAAAA write ok read ok
-block  21 addr 0x800015000 pattern 0x55555555 write ok read ok
-block  21 addr 0x800015000 pattern 0xAAAAAAAA write ok read ok
-block  22 addr 0x800016000 pattern 0x55555555 write ok read ok
-block  22 addr 0x800016000 pattern 0xAAAAAAAA write ok read ok
-block  23 addr 0x800017000 pattern 0x55555555 write ok read ok
-block  23 addr 0x800017000 pattern 0xAAAAAAAA write ok read ok
-block  24 addr 0x800018000 pattern 0x55555555 write ok read ok
-block  24 addr 0x800018000 pattern 0xAAAAAAAA write ok read ok
-block  25 addr 0x800019000 pattern 0x55555555 write ok read ok
-block  25 addr 0x800019000 pattern 0xAAAAAAAA write ok read ok
-block  26 addr 0x80001A000 pattern 0x55555555 write ok read ok
-block  26 addr 0x80001A000 pattern 0xAAAAAAAA write ok read ok
-block  27 addr 0x80001B000 pattern 0x55555555 write ok read ok
-block  27 addr 0x80001B000 pattern 0xAAAAAAAA write ok read ok
-block  28 addr 0x80001C000 pattern 0x55555555 write ok read ok
-block  28 addr 0x80001C000 pattern 0xAAAAAAAA write ok read ok
-block  29 addr 0x80001D000 pattern 0x55555555 write ok read ok
-block  29 addr 0x80001D000 pattern 0xAAAAAAAA write ok read ok
-block  30 addr 0x80001E000 pattern 0x55555555 write ok read ok
-block  30 addr 0x80001E000 pattern 0xAAAAAAAA write ok read ok
-block  31 addr 0x80001F000 pattern 0x55555555 write ok read ok
-block  31 addr 0x80001F000 pattern 0xAAAAAAAA write ok read ok
-block  32 addr 0x800020000 pattern 0x55555555 write ok read ok
-block  32 addr 0x800020000 pattern 0xAAAAAAAA write ok read ok
-block  33 addr 0x800021000 pattern 0x55555555 write ok read ok
-block  33 addr 0x800021000 pattern 0xAAAAAAAA write ok read ok
-block  34 addr 0x800022000 pattern 0x55555555 write ok read ok
-block  34 addr 0x800022000 pattern 0xAAAAAAAA write ok read ok
-block  35 addr 0x800023000 pattern 0x55555555 write ok read ok
-block  35 addr 0x800023000 pattern 0xAAAAAAAA write ok read ok
-block  36 addr 0x800024000 pattern 0x55555555 write ok read ok
-block  36 addr 0x800024000 pattern 0xAAAAAAAA write ok read ok
-block  37 addr 0x800025000 pattern 0x55555555 write ok read ok
-block  37 addr 0x800025000 pattern 0xAAAAAAAA write ok read ok
-block  38 addr 0x800026000 pattern 0x55555555 write ok read ok
-block  38 addr 0x800026000 pattern 0xAAAAAAAA write ok read ok
-block  39 addr 0x800027000 pattern 0x55555555 write ok read ok
-block  39 addr 0x800027000 pattern 0xAAAAAAAA write ok read ok
-block  40 addr 0x800028000 pattern 0x55555555 write ok read ok
-block  40 addr 0x800028000 pattern 0xAAAAAAAA write ok read ok
-block  41 addr 0x800029000 pattern 0x55555555 write ok read ok
-block  41 addr 0x800029000 pattern 0xAAAAAAAA write ok read ok
-block  42 addr 0x80002A000 pattern 0x55555555 write ok read ok
-block  42 addr 0x80002A000 pattern 0xAAAAAAAA write ok read ok
-block  43 addr 0x80002B000 pattern 0x55555555 write ok read ok
-block  43 addr 0x80002B000 pattern 0xAAAAAAAA write ok read ok
-block  44 addr 0x80002C000 pattern 0x55555555 write ok read ok
-block  44 addr 0x80002C000 pattern 0xAAAAAAAA write ok read ok
-block  45 addr 0x80002D000 pattern 0x55555555 write ok read ok
-block  45 addr 0x80002D000 pattern 0xAAAAAAAA write ok read ok
-block  46 addr 0x80002E000 pattern 0x55555555 write ok read ok
-block  46 addr 0x80002E000 pattern 0xAAAAAAAA write ok read ok
-block  47 addr 0x80002F000 pattern 0x55555555 write ok read ok
-block  47 addr 0x80002F000 pattern 0xAAAAAAAA write ok read ok
-block  48 addr 0x800030000 pattern 0x55555555 write ok read ok
-block  48 addr 0x800030000 pattern 0xAAAAAAAA write ok read ok
-block  49 addr 0x800031000 pattern 0x55555555 write ok read ok
-block  49 addr 0x800031000 pattern 0xAAAAAAAA write ok read ok
-block  50 addr 0x800032000 pattern 0x55555555 write ok read ok
-block  50 addr 0x800032000 pattern 0xAAAAAAAA write ok read ok
-block  51 addr 0x800033000 pattern 0x55555555 write ok read ok
-block  51 addr 0x800033000 pattern 0xAAAAAAAA write ok read ok
-block  52 addr 0x800034000 pattern 0x55555555 write ok read ok
-block  52 addr 0x800034000 pattern 0xAAAAAAAA write ok read ok
-block  53 addr 0x800035000 pattern 0x55555555 write ok read ok
-block  53 addr 0x800035000 pattern 0xAAAAAAAA write ok read ok
-block  54 addr 0x800036000 pattern 0x55555555 write ok read ok
-block  54 addr 0x800036000 pattern 0xAAAAAAAA write ok read ok
-block  55 addr 0x800037000 pattern 0x55555555 write ok read ok
-block  55 addr 0x800037000 pattern 0xAAAAAAAA write ok read ok
-block  56 addr 0x800038000 pattern 0x55555555 write ok read ok
-block  56 addr 0x800038000 pattern 0xAAAAAAAA write ok read ok
-block  57 addr 0x800039000 pattern 0x55555555 write ok read ok
-block  57 addr 0x800039000 pattern 0xAAAAAAAA write ok read ok
-block  58 addr 0x80003A000 pattern 0x55555555 write ok read ok
-block  58 addr 0x80003A000 pattern 0xAAAAAAAA write ok read ok
-block  59 addr 0x80003B000 pattern 0x55555555 write ok read ok
-block  59 addr 0x80003B000 pattern 0xAAAAAAAA write ok read ok
-block  60 addr 0x80003C000 pattern 0x55555555 write ok read ok
-block  60 addr 0x80003C000 pattern 0xAAAAAAAA write ok read ok
-block  61 addr 0x80003D000 pattern 0x55555555 write ok read ok
-block  61 addr 0x80003D000 pattern 0xAAAAAAAA write ok read ok
-block  62 addr 0x80003E000 pattern 0x55555555 write ok read ok
-block  62 addr 0x80003E000 pattern 0xAAAAAAAA write ok read ok
-block  63 addr 0x80003F000 pattern 0x55555555 write ok read ok
-block  63 addr 0x80003F000 pattern 0xAAAAAAAA write ok read ok
-block  64 addr 0x800040000 pattern 0x55555555 write ok read ok
-block  64 addr 0x800040000 pattern 0xAAAAAAAA write ok read ok
-block  65 addr 0x800041000 pattern 0x55555555 write ok read ok
-block  65 addr 0x800041000 pattern 0xAAAAAAAA write ok read ok
-block  66 addr 0x800042000 pattern 0x55555555 write ok read ok
-block  66 addr 0x800042000 pattern 0xAAAAAAAA write ok read ok
-block  67 addr 0x800043000 pattern 0x55555555 write ok read ok
-block  67 addr 0x800043000 pattern 0xAAAAAAAA write ok read ok
-block  68 addr 0x800044000 pattern 0x55555555 write ok read ok
-block  68 addr 0x800044000 pattern 0xAAAAAAAA write ok read ok
-block  69 addr 0x800045000 pattern 0x55555555 write ok read ok
-block  69 addr 0x800045000 pattern 0xAAAAAAAA write ok read ok
-block  70 addr 0x800046000 pattern 0x55555555 write ok read ok
-block  70 addr 0x800046000 pattern 0xAAAAAAAA write ok read ok
-block  71 addr 0x800047000 pattern 0x55555555 write ok read ok
-block  71 addr 0x800047000 pattern 0xAAAAAAAA write ok read ok
-block  72 addr 0x800048000 pattern 0x55555555 write ok read ok
-block  72 addr 0x800048000 pattern 0xAAAAAAAA write ok read ok
-block  73 addr 0x800049000 pattern 0x55555555 write ok read ok
-block  73 addr 0x800049000 pattern 0xAAAAAAAA write ok read ok
-block  74 addr 0x80004A000 pattern 0x55555555 write ok read ok
-block  74 addr 0x80004A000 pattern 0xAAAAAAAA write ok read ok
-block  75 addr 0x80004B000 pattern 0x55555555 write ok read ok
-block  75 addr 0x80004B000 pattern 0xAAAAAAAA write ok read ok
-block  76 addr 0x80004C000 pattern 0x55555555 write ok read ok
-block  76 addr 0x80004C000 pattern 0xAAAAAAAA write ok read ok
-block  77 addr 0x80004D000 pattern 0x55555555 write ok read ok
-block  77 addr 0x80004D000 pattern 0xAAAAAAAA write ok read ok
-block  78 addr 0x80004E000 pattern 0x55555555 write ok read ok
-block  78 addr 0x80004E000 pattern 0xAAAAAAAA write ok read ok
-block  79 addr 0x80004F000 pattern 0x55555555 write ok read ok
-block  79 addr 0x80004F000 pattern 0xAAAAAAAA write ok read ok
-block  80 addr 0x800050000 pattern 0x55555555 write ok read ok
-block  80 addr 0x800050000 pattern 0xAAAAAAAA write ok read ok
-block  81 addr 0x800051000 pattern 0x55555555 write ok read ok
-block  81 addr 0x800051000 pattern 0xAAAAAAAA write ok read ok
-block  82 addr 0x800052000 pattern 0x55555555 write ok read ok
-block  82 addr 0x800052000 pattern 0xAAAAAAAA write ok read ok
-block  83 addr 0x800053000 pattern 0x55555555 write ok read ok
-block  83 addr 0x800053000 pattern 0xAAAAAAAA write ok read ok
-block  84 addr 0x800054000 pattern 0x55555555 write ok read ok
-block  84 addr 0x800054000 pattern 0xAAAAAAAA write ok read ok
-block  85 addr 0x800055000 pattern 0x55555555 write ok read ok
-block  85 addr 0x800055000 pattern 0xAAAAAAAA write ok read ok
-block  86 addr 0x800056000 pattern 0x55555555 write ok read ok
-block  86 addr 0x800056000 pattern 0xAAAAAAAA write ok read ok
-block  87 addr 0x800057000 pattern 0x55555555 write ok read ok
-block  87 addr 0x800057000 pattern 0xAAAAAAAA write ok read ok
-block  88 addr 0x800058000 pattern 0x55555555 write ok read ok
-block  88 addr 0x800058000 pattern 0xAAAAAAAA write ok read ok
-block  89 addr 0x800059000 pattern 0x55555555 write ok read ok
-block  89 addr 0x800059000 pattern 0xAAAAAAAA write ok read ok
-block  90 addr 0x80005A000 pattern 0x55555555 write ok read ok
-block  90 addr 0x80005A000 pattern 0xAAAAAAAA write ok read ok
-block  91 addr 0x80005B000 pattern 0x55555555 write ok read ok
-block  91 addr 0x80005B000 pattern 0xAAAAAAAA write ok read ok
-block  92 addr 0x80005C000 pattern 0x55555555 write ok read ok
-block  92 addr 0x80005C000 pattern 0xAAAAAAAA write ok read ok
-block  93 addr 0x80005D000 pattern 0x55555555 write ok read ok
-block  93 addr 0x80005D000 pattern 0xAAAAAAAA write ok read ok
-block  94 addr 0x80005E000 pattern 0x55555555 write ok read ok
-block  94 addr 0x80005E000 pattern 0xAAAAAAAA write ok read ok
-block  95 addr 0x80005F000 pattern 0x55555555 write ok read ok
-block  95 addr 0x80005F000 pattern 0xAAAAAAAA write ok read ok
-block  96 addr 0x800060000 pattern 0x55555555 write ok read ok
-block  96 addr 0x800060000 pattern 0xAAAAAAAA write ok read ok
-block  97 addr 0x800061000 pattern 0x55555555 write ok read ok
-block  97 addr 0x800061000 pattern 0xAAAAAAAA write ok read ok
-block  98 addr 0x800062000 pattern 0x55555555 write ok read ok
-block  98 addr 0x800062000 pattern 0xAAAAAAAA write ok read ok
-block  99 addr 0x800063000 pattern 0x55555555 write ok read ok
-block  99 addr 0x800063000 pattern 0xAAAAAAAA write ok read ok
-block 100 addr 0x800064000 pattern 0x55555555 write ok read ok
-block 100 addr 0x800064000 pattern 0xAAAAAAAA write ok read ok
-block 101 addr 0x800065000 pattern 0x55555555 write ok read ok
-block 101 addr 0x800065000 pattern 0xAAAAAAAA write ok read ok
-block 102 addr 0x800066000 pattern 0x55555555 write ok read ok
-block 102 addr 0x800066000 pattern 0xAAAAAAAA write ok read ok
-block 103 addr 0x800067000 pattern 0x55555555 write ok read ok
-block 103 addr 0x800067000 pattern 0xAAAAAAAA write ok read ok
-block 104 addr 0x800068000 pattern 0x55555555 write ok read ok
-block 104 addr 0x800068000 pattern 0xAAAAAAAA write ok read ok
-block 105 addr 0x800069000 pattern 0x55555555 write ok read ok
-block 105 addr 0x800069000 pattern 0xAAAAAAAA write ok read ok
-block 106 addr 0x80006A000 pattern 0x55555555 write ok read ok
-block 106 addr 0x80006A000 pattern 0xAAAAAAAA write ok read ok
-block 107 addr 0x80006B000 pattern 0x55555555 write ok read ok
-block 107 addr 0x80006B000 pattern 0xAAAAAAAA write ok read ok
-block 108 addr 0x80006C000 pattern 0x55555555 write ok read ok
-block 108 addr 0x80006C000 pattern 0xAAAAAAAA write ok read ok
-block 109 addr 0x80006D000 pattern 0x55555555 write ok read ok
-block 109 addr 0x80006D000 pattern 0xAAAAAAAA write ok read ok
-block 110 addr 0x80006E000 pattern 0x55555555 write ok read ok
-block 110 addr 0x80006E000 pattern 0xAAAAAAAA write ok read ok
-block 111 addr 0x80006F000 pattern 0x55555555 write ok read ok
-block 111 addr 0x80006F000 pattern 0xAAAAAAAA write ok read ok
-block 112 addr 0x800070000 pattern 0x55555555 write ok read ok
-block 112 addr 0x800070000 pattern 0xAAAAAAAA write ok read ok
-block 113 addr 0x800071000 pattern 0x55555555 write ok read ok
-block 113 addr 0x800071000 pattern 0xAAAAAAAA write ok read ok
-block 114 addr 0x800072000 pattern 0x55555555 write ok read ok
-block 114 addr 0x800072000 pattern 0xAAAAAAAA write ok read ok
-block 115 addr 0x800073000 pattern 0x55555555 write ok read ok
-block 115 addr 0x800073000 pattern 0xAAAAAAAA write ok read ok
-block 116 addr 0x800074000 pattern 0x55555555 write ok read ok
-block 116 addr 0x800074000 pattern 0xAAAAAAAA write ok read ok
-block 117 addr 0x800075000 pattern 0x55555555 write ok read ok
-block 117 addr 0x800075000 pattern 0xAAAAAAAA write ok read ok
-block 118 addr 0x800076000 pattern 0x55555555 write ok read ok
-block 118 addr 0x800076000 pattern 0xAAAAAAAA write ok read ok
-block 119 addr 0x800077000 pattern 0x55555555 write ok read ok
-block 119 addr 0x800077000 pattern 0xAAAAAAAA write ok read ok
-block 120 addr 0x800078000 pattern 0x55555555 write ok read ok
-block 120 addr 0x800078000 pattern 0xAAAAAAAA write ok read ok
-block 121 addr 0x800079000 pattern 0x55555555 write ok read ok
-block 121 addr 0x800079000 pattern 0xAAAAAAAA write ok read ok
-block 122 addr 0x80007A000 pattern 0x55555555 write ok read ok
-block 122 addr 0x80007A000 pattern 0xAAAAAAAA write ok read ok
-block 123 addr 0x80007B000 pattern 0x55555555 write ok read ok
-block 123 addr 0x80007B000 pattern 0xAAAAAAAA write ok read ok
-block 124 addr 0x80007C000 pattern 0x55555555 write ok read ok
-block 124 addr 0x80007C000 pattern 0xAAAAAAAA write ok read ok
-block 125 addr 0x80007D000 pattern 0x55555555 write ok read ok
-block 125 addr 0x80007D000 pattern 0xAAAAAAAA write ok read ok
-block 126 addr 0x80007E000 pattern 0x55555555 write ok read ok
-block 126 addr 0x80007E000 pattern 0xAAAAAAAA write ok read ok
-block 127 addr 0x80007F000 pattern 0x55555555 write ok read ok
-block 127 addr 0x80007F000 pattern 0xAAAAAAAA write ok read ok
-block 128 addr 0x800080000 pattern 0x55555555 write ok read ok
-block 128 addr 0x800080000 pattern 0xAAAAAAAA write ok read ok
-block 129 addr 0x800081000 pattern 0x55555555 write ok read ok
-block 129 addr 0x800081000 pattern 0xAAAAAAAA write ok read ok
-block 130 addr 0x800082000 pattern 0x55555555 write ok read ok
-block 130 addr 0x800082000 pattern 0xAAAAAAAA write ok read ok
-block 131 addr 0x800083000 pattern 0x55555555 write ok read ok
-block 131 addr 0x800083000 pattern 0xAAAAAAAA write ok read ok
-block 132 addr 0x800084000 pattern 0x55555555 write ok read ok
-block 132 addr 0x800084000 pattern 0xAAAAAAAA write ok read ok
-block 133 addr 0x800085000 pattern 0x55555555 write ok read ok
-block 133 addr 0x800085000 pattern 0xAAAAAAAA write ok read ok
-block 134 addr 0x800086000 pattern 0x55555555 write ok read ok
-block 134 addr 0x800086000 pattern 0xAAAAAAAA write ok read ok
-block 135 addr 0x800087000 pattern 0x55555555 write ok read ok
-block 135 addr 0x800087000 pattern 0xAAAAAAAA write ok read ok
-block 136 addr 0x800088000 pattern 0x55555555 write ok read ok
-block 136 addr 0x800088000 pattern 0xAAAAAAAA write ok read ok
-block 137 addr 0x800089000 pattern 0x55555555 write ok read ok
-block 137 addr 0x800089000 pattern 0xAAAAAAAA write ok read ok
-block 138 addr 0x80008A000 pattern 0x55555555 write ok read ok
-block 138 addr 0x80008A000 pattern 0xAAAAAAAA write ok read ok
-block 139 addr 0x80008B000 pattern 0x55555555 write ok read ok
-block 139 addr 0x80008B000 pattern 0xAAAAAAAA write ok read ok
-block 140 addr 0x80008C000 pattern 0x55555555 write ok read ok
-block 140 addr 0x80008C000 pattern 0xAAAAAAAA write ok read ok
-block 141 addr 0x80008D000 pattern 0x55555555 write ok read ok
-block 141 addr 0x80008D000 pattern 0xAAAAAAAA write ok read ok
-block 142 addr 0x80008E000 pattern 0x55555555 write ok read ok
-block 142 addr 0x80008E000 pattern 0xAAAAAAAA write ok read ok
-block 143 addr 0x80008F000 pattern 0x55555555 write ok read ok
-block 143 addr 0x80008F000 pattern 0xAAAAAAAA write ok read ok
-block 144 addr 0x800090000 pattern 0x55555555 write ok read ok
-block 144 addr 0x800090000 pattern 0xAAAAAAAA write ok read ok
-block 145 addr 0x800091000 pattern 0x55555555 write ok read ok
-block 145 addr 0x800091000 pattern 0xAAAAAAAA write ok read ok
-block 146 addr 0x800092000 pattern 0x55555555 write ok read ok
-block 146 addr 0x800092000 pattern 0xAAAAAAAA write ok read ok
-block 147 addr 0x800093000 pattern 0x55555555 write ok read ok
-block 147 addr 0x800093000 pattern 0xAAAAAAAA write ok read ok
-block 148 addr 0x800094000 pattern 0x55555555 write ok read ok
-block 148 addr 0x800094000 pattern 0xAAAAAAAA write ok read ok
-block 149 addr 0x800095000 pattern 0x55555555 write ok read ok
-block 149 addr 0x800095000 pattern 0xAAAAAAAA write ok read ok
-block 150 addr 0x800096000 pattern 0x55555555 write ok read ok
-block 150 addr 0x800096000 pattern 0xAAAAAAAA write ok read ok
-block 151 addr 0x800097000 pattern 0x55555555 write ok read ok
-block 151 addr 0x800097000 pattern 0xAAAAAAAA write ok read ok
-block 152 addr 0x800098000 pattern 0x55555555 write ok read ok
-block 152 addr 0x800098000 pattern 0xAAAAAAAA write ok read ok
-block 153 addr 0x800099000 pattern 0x55555555 write ok read ok
-block 153 addr 0x800099000 pattern 0xAAAAAAAA write ok read ok
-block 154 addr 0x80009A000 pattern 0x55555555 write ok read ok
-block 154 addr 0x80009A000 pattern 0xAAAAAAAA write ok read ok
-block 155 addr 0x80009B000 pattern 0x55555555 write ok read ok
-block 155 addr 0x80009B000 pattern 0xAAAAAAAA write ok read ok
-block 156 addr 0x80009C000 pattern 0x55555555 write ok read ok
-block 156 addr 0x80009C000 pattern 0xAAAAAAAA write ok read ok
-block 157 addr 0x80009D000 pattern 0x55555555 write ok read ok
-block 157 addr 0x80009D000 pattern 0xAAAAAAAA write ok read ok
-block 158 addr 0x80009E000 pattern 0x55555555 write ok read ok
-block 158 addr 0x80009E000 pattern 0xAAAAAAAA write ok read ok
-block 159 addr 0x80009F000 pattern 0x55555555 write ok read ok
-block 159 addr 0x80009F000 pattern 0xAAAAAAAA write ok read ok
-block 160 addr 0x8000A0000 pattern 0x55555555 write ok read ok
-block 160 addr 0x8000A0000 pattern 0xAAAAAAAA write ok read ok
-block 161 addr 0x8000A1000 pattern 0x55555555 write ok read ok
-block 161 addr 0x8000A1000 pattern 0xAAAAAAAA write ok read ok
-block 162 addr 0x8000A2000 pattern 0x55555555 write ok read ok
-block 162 addr 0x8000A2000 pattern 0xAAAAAAAA write ok read ok
-block 163 addr 0x8000A3000 pattern 0x55555555 write ok read ok
-block 163 addr 0x8000A3000 pattern 0xAAAAAAAA write ok read ok
-block 164 addr 0x8000A4000 pattern 0x55555555 write ok read ok
-block 164 addr 0x8000A4000 pattern 0xAAAAAAAA write ok read ok
-block 165 addr 0x8000A5000 pattern 0x55555555 write ok read ok
-block 165 addr 0x8000A5000 pattern 0xAAAAAAAA write ok read ok
-block 166 addr 0x8000A6000 pattern 0x55555555 write ok read ok
-block 166 addr 0x8000A6000 pattern 0xAAAAAAAA write ok read ok
-block 167 addr 0x8000A7000 pattern 0x55555555 write ok read ok
-block 167 addr 0x8000A7000 pattern 0xAAAAAAAA write ok read ok
-block 168 addr 0x8000A8000 pattern 0x55555555 write ok read ok
-block 168 addr 0x8000A8000 pattern 0xAAAAAAAA write ok read ok
-block 169 addr 0x8000A9000 pattern 0x55555555 write ok read ok
-block 169 addr 0x8000A9000 pattern 0xAAAAAAAA write ok read ok
-block 170 addr 0x8000AA000 pattern 0x55555555 write ok read ok
-block 170 addr 0x8000AA000 pattern 0xAAAAAAAA write ok read ok
-block 171 addr 0x8000AB000 pattern 0x55555555 write ok read ok
-block 171 addr 0x8000AB000 pattern 0xAAAAAAAA write ok read ok
-block 172 addr 0x8000AC000 pattern 0x55555555 write ok read ok
-block 172 addr 0x8000AC000 pattern 0xAAAAAAAA write ok read ok
-block 173 addr 0x8000AD000 pattern 0x55555555 write ok read ok
-block 173 addr 0x8000AD000 pattern 0xAAAAAAAA write ok read ok
-block 174 addr 0x8000AE000 pattern 0x55555555 write ok read ok
-block 174 addr 0x8000AE000 pattern 0xAAAAAAAA write ok read ok
-block 175 addr 0x8000AF000 pattern 0x55555555 write ok read ok
-block 175 addr 0x8000AF000 pattern 0xAAAAAAAA write ok read ok
-block 176 addr 0x8000B0000 pattern 0x55555555 write ok read ok
-block 176 addr 0x8000B0000 pattern 0xAAAAAAAA write ok read ok
-block 177 addr 0x8000B1000 pattern 0x55555555 write ok read ok
-block 177 addr 0x8000B1000 pattern 0xAAAAAAAA write ok read ok
-block 178 addr 0x8000B2000 pattern 0x55555555 write ok read ok
-block 178 addr 0x8000B2000 pattern 0xAAAAAAAA write ok read ok
-block 179 addr 0x8000B3000 pattern 0x55555555 write ok read ok
-block 179 addr 0x8000B3000 pattern 0xAAAAAAAA write ok read ok
-block 180 addr 0x8000B4000 pattern 0x55555555 write ok read ok
-block 180 addr 0x8000B4000 pattern 0xAAAAAAAA write ok read ok
-block 181 addr 0x8000B5000 pattern 0x55555555 write ok read ok
-block 181 addr 0x8000B5000 pattern 0xAAAAAAAA write ok read ok
-block 182 addr 0x8000B6000 pattern 0x55555555 write ok read ok
-block 182 addr 0x8000B6000 pattern 0xAAAAAAAA write ok read ok
-block 183 addr 0x8000B7000 pattern 0x55555555 write ok read ok
-block 183 addr 0x8000B7000 pattern 0xAAAAAAAA write ok read ok
-block 184 addr 0x8000B8000 pattern 0x55555555 write ok read ok
-block 184 addr 0x8000B8000 pattern 0xAAAAAAAA write ok read ok
-block 185 addr 0x8000B9000 pattern 0x55555555 write ok read ok
-block 185 addr 0x8000B9000 pattern 0xAAAAAAAA write ok read ok
-block 186 addr 0x8000BA000 pattern 0x55555555 write ok read ok
-block 186 addr 0x8000BA000 pattern 0xAAAAAAAA write ok read ok
-block 187 addr 0x8000BB000 pattern 0x55555555 write ok read ok
-block 187 addr 0x8000BB000 pattern 0xAAAAAAAA write ok read ok
-block 188 addr 0x8000BC000 pattern 0x55555555 write ok read ok
-block 188 addr 0x8000BC000 pattern 0xAAAAAAAA write ok read ok
-block 189 addr 0x8000BD000 pattern 0x55555555 write ok read ok
-block 189 addr 0x8000BD000 pattern 0xAAAAAAAA write ok read ok
-block 190 addr 0x8000BE000 pattern 0x55555555 write ok read ok
-block 190 addr 0x8000BE000 pattern 0xAAAAAAAA write ok read ok
-block 191 addr 0x8000BF000 pattern 0x55555555 write ok read ok
-block 191 addr 0x8000BF000 pattern 0xAAAAAAAA write ok read ok
-block 192 addr 0x8000C0000 pattern 0x55555555 write ok read ok
-block 192 addr 0x8000C0000 pattern 0xAAAAAAAA write ok read ok
-block 193 addr 0x8000C1000 pattern 0x55555555 write ok read ok
-block 193 addr 0x8000C1000 pattern 0xAAAAAAAA write ok read ok
-block 194 addr 0x8000C2000 pattern 0x55555555 write ok read ok
-block 194 addr 0x8000C2000 pattern 0xAAAAAAAA write ok read ok
-block 195 addr 0x8000C3000 pattern 0x55555555 write ok read ok
-block 195 addr 0x8000C3000 pattern 0xAAAAAAAA write ok read ok
-block 196 addr 0x8000C4000 pattern 0x55555555 write ok read ok
-block 196 addr 0x8000C4000 pattern 0xAAAAAAAA write ok read ok
-block 197 addr 0x8000C5000 pattern 0x55555555 write ok read ok
-block 197 addr 0x8000C5000 pattern 0xAAAAAAAA write ok read ok
-block 198 addr 0x8000C6000 pattern 0x55555555 write ok read ok
-block 198 addr 0x8000C6000 pattern 0xAAAAAAAA write ok read ok
-block 199 addr 0x8000C7000 pattern 0x55555555 write ok read ok
-block 199 addr 0x8000C7000 pattern 0xAAAAAAAA write ok read ok
-block 200 addr 0x8000C8000 pattern 0x55555555 write ok read ok
-block 200 addr 0x8000C8000 pattern 0xAAAAAAAA write ok read ok
-block 201 addr 0x8000C9000 pattern 0x55555555 write ok read ok
-block 201 addr 0x8000C9000 pattern 0xAAAAAAAA write ok read ok
-block 202 addr 0x8000CA000 pattern 0x55555555 write ok read ok
-block 202 addr 0x8000CA000 pattern 0xAAAAAAAA write ok read ok
-block 203 addr 0x8000CB000 pattern 0x55555555 write ok read ok
-block 203 addr 0x8000CB000 pattern 0xAAAAAAAA write ok read ok
-block 204 addr 0x8000CC000 pattern 0x55555555 write ok read ok
-block 204 addr 0x8000CC000 pattern 0xAAAAAAAA write ok read ok
-block 205 addr 0x8000CD000 pattern 0x55555555 write ok read ok
-block 205 addr 0x8000CD000 pattern 0xAAAAAAAA write ok read ok
-block 206 addr 0x8000CE000 pattern 0x55555555 write ok read ok
-block 206 addr 0x8000CE000 pattern 0xAAAAAAAA write ok read ok
-block 207 addr 0x8000CF000 pattern 0x55555555 write ok read ok
-block 207 addr 0x8000CF000 pattern 0xAAAAAAAA write ok read ok
-block 208 addr 0x8000D0000 pattern 0x55555555 write ok read ok
-block 208 addr 0x8000D0000 pattern 0xAAAAAAAA write ok read ok
-block 209 addr 0x8000D1000 pattern 0x55555555 write ok read ok
-block 209 addr 0x8000D1000 pattern 0xAAAAAAAA write ok read ok
-block 210 addr 0x8000D2000 pattern 0x55555555 write ok read ok
-block 210 addr 0x8000D2000 pattern 0xAAAAAAAA write ok read ok
-block 211 addr 0x8000D3000 pattern 0x55555555 write ok read ok
-block 211 addr 0x8000D3000 pattern 0xAAAAAAAA write ok read ok
-block 212 addr 0x8000D4000 pattern 0x55555555 write ok read ok
-block 212 addr 0x8000D4000 pattern 0xAAAAAAAA write ok read ok
-block 213 addr 0x8000D5000 pattern 0x55555555 write ok read ok
-block 213 addr 0x8000D5000 pattern 0xAAAAAAAA write ok read ok
-block 214 addr 0x8000D6000 pattern 0x55555555 write ok read ok
-block 214 addr 0x8000D6000 pattern 0xAAAAAAAA write ok read ok
-block 215 addr 0x8000D7000 pattern 0x55555555 write ok read ok
-block 215 addr 0x8000D7000 pattern 0xAAAAAAAA write ok read ok
-block 216 addr 0x8000D8000 pattern 0x55555555 write ok read ok
-block 216 addr 0x8000D8000 pattern 0xAAAAAAAA write ok read ok
-block 217 addr 0x8000D9000 pattern 0x55555555 write ok read ok
-block 217 addr 0x8000D9000 pattern 0xAAAAAAAA write ok read ok
-block 218 addr 0x8000DA000 pattern 0x55555555 write ok read ok
-block 218 addr 0x8000DA000 pattern 0xAAAAAAAA write ok read ok
-block 219 addr 0x8000DB000 pattern 0x55555555 write ok read ok
-block 219 addr 0x8000DB000 pattern 0xAAAAAAAA write ok read ok
-block 220 addr 0x8000DC000 pattern 0x55555555 write ok read ok
-block 220 addr 0x8000DC000 pattern 0xAAAAAAAA write ok read ok
-block 221 addr 0x8000DD000 pattern 0x55555555 write ok read ok
-block 221 addr 0x8000DD000 pattern 0xAAAAAAAA write ok read ok
-block 222 addr 0x8000DE000 pattern 0x55555555 write ok read ok
-block 222 addr 0x8000DE000 pattern 0xAAAAAAAA write ok read ok
-block 223 addr 0x8000DF000 pattern 0x55555555 write ok read ok
-block 223 addr 0x8000DF000 pattern 0xAAAAAAAA write ok read ok
-block 224 addr 0x8000E0000 pattern 0x55555555 write ok read ok
-block 224 addr 0x8000E0000 pattern 0xAAAAAAAA write ok read ok
-block 225 addr 0x8000E1000 pattern 0x55555555 write ok read ok
-block 225 addr 0x8000E1000 pattern 0xAAAAAAAA write ok read ok
-block 226 addr 0x8000E2000 pattern 0x55555555 write ok read ok
-block 226 addr 0x8000E2000 pattern 0xAAAAAAAA write ok read ok
-block 227 addr 0x8000E3000 pattern 0x55555555 write ok read ok
-block 227 addr 0x8000E3000 pattern 0xAAAAAAAA write ok read ok
-block 228 addr 0x8000E4000 pattern 0x55555555 write ok read ok
-block 228 addr 0x8000E4000 pattern 0xAAAAAAAA write ok read ok
-block 229 addr 0x8000E5000 pattern 0x55555555 write ok read ok
-block 229 addr 0x8000E5000 pattern 0xAAAAAAAA write ok read ok
-block 230 addr 0x8000E6000 pattern 0x55555555 write ok read ok
-block 230 addr 0x8000E6000 pattern 0xAAAAAAAA write ok read ok
-block 231 addr 0x8000E7000 pattern 0x55555555 write ok read ok
-block 231 addr 0x8000E7000 pattern 0xAAAAAAAA write ok read ok
-block 232 addr 0x8000E8000 pattern 0x55555555 write ok read ok
-block 232 addr 0x8000E8000 pattern 0xAAAAAAAA write ok read ok
-block 233 addr 0x8000E9000 pattern 0x55555555 write ok read ok
-block 233 addr 0x8000E9000 pattern 0xAAAAAAAA write ok read ok
-block 234 addr 0x8000EA000 pattern 0x55555555 write ok read ok
-block 234 addr 0x8000EA000 pattern 0xAAAAAAAA write ok read ok
-block 235 addr 0x8000EB000 pattern 0x55555555 write ok read ok
-block 235 addr 0x8000EB000 pattern 0xAAAAAAAA write ok read ok
-block 236 addr 0x8000EC000 pattern 0x55555555 write ok read ok
-block 236 addr 0x8000EC000 pattern 0xAAAAAAAA write ok read ok
-block 237 addr 0x8000ED000 pattern 0x55555555 write ok read ok
-block 237 addr 0x8000ED000 pattern 0xAAAAAAAA write ok read ok
-block 238 addr 0x8000EE000 pattern 0x55555555 write ok read ok
-block 238 addr 0x8000EE000 pattern 0xAAAAAAAA write ok read ok
-block 239 addr 0x8000EF000 pattern 0x55555555 write ok read ok
-block 239 addr 0x8000EF000 pattern 0xAAAAAAAA write ok read ok
-block 240 addr 0x8000F0000 pattern 0x55555555 write ok read ok
-block 240 addr 0x8000F0000 pattern 0xAAAAAAAA write ok read ok
-block 241 addr 0x8000F1000 pattern 0x55555555 write ok read ok
-block 241 addr 0x8000F1000 pattern 0xAAAAAAAA write ok read ok
-block 242 addr 0x8000F2000 pattern 0x55555555 write ok read ok
-block 242 addr 0x8000F2000 pattern 0xAAAAAAAA write ok read ok
-block 243 addr 0x8000F3000 pattern 0x55555555 write ok read ok
-block 243 addr 0x8000F3000 pattern 0xAAAAAAAA write ok read ok
-block 244 addr 0x8000F4000 pattern 0x55555555 write ok read ok
-block 244 addr 0x8000F4000 pattern 0xAAAAAAAA write ok read ok
-block 245 addr 0x8000F5000 pattern 0x55555555 write ok read ok
-block 245 addr 0x8000F5000 pattern 0xAAAAAAAA write ok read ok
-block 246 addr 0x8000F6000 pattern 0x55555555 write ok read ok
-block 246 addr 0x8000F6000 pattern 0xAAAAAAAA write ok read ok
-block 247 addr 0x8000F7000 pattern 0x55555555 write ok read ok
-block 247 addr 0x8000F7000 pattern 0xAAAAAAAA write ok read ok
-block 248 addr 0x8000F8000 pattern 0x55555555 write ok read ok
-block 248 addr 0x8000F8000 pattern 0xAAAAAAAA write ok read ok
-block 249 addr 0x8000F9000 pattern 0x55555555 write ok read ok
-block 249 addr 0x8000F9000 pattern 0xAAAAAAAA write ok read ok
-block 250 addr 0x8000FA000 pattern 0x55555555 write ok read ok
-block 250 addr 0x8000FA000 pattern 0xAAAAAAAA write ok read ok
-block 251 addr 0x8000FB000 pattern 0x55555555 write ok read ok
-block 251 addr 0x8000FB000 pattern 0xAAAAAAAA write ok read ok
-block 252 addr 0x8000FC000 pattern 0x55555555 write ok read ok
-block 252 addr 0x8000FC000 pattern 0xAAAAAAAA write ok read ok
-block 253 addr 0x8000FD000 pattern 0x55555555 write ok read ok
-block 253 addr 0x8000FD000 pattern 0xAAAAAAAA write ok read ok
-block 254 addr 0x8000FE000 pattern 0x55555555 write ok read ok
-block 254 addr 0x8000FE000 pattern 0xAAAAAAAA write ok read ok
-block 255 addr 0x8000FF000 pattern 0x55555555 write ok read ok
-block 255 addr 0x8000FF000 pattern 0xAAAAAAAA write ok read ok
-testmemory --1MB: Passed
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
 INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6', 'baseband --off',
 replace('
 baseband --off', char(10), char(13, 10)) || char(13) || replace('
@@ -715,6 +130,66 @@ replace('
 buckcheck 5', char(10), char(13, 10)) || char(13) || replace('
 buckcheck starting, please wait
 buck5 target 1060 mV measured 1068.117 mV PASS
+[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
+'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6', 'BUTTONCNT --DQE',
+replace('
+BUTTONCNT --DQE', char(10), char(13, 10)) || char(13) || replace('
+Button count test running, results on the device screen
+Send /q to quit
+[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
+'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6', 'Help',
+replace('
+Help', char(10), char(13, 10)) || char(13) || replace('
+Available commands (type <command> --help for options):
+  accel          diagnostics command accel: run, read or control the accel block of the board
+  als            diagnostics command als: run, read or control the als block of the board
+  audio          diagnostics command audio: run, read or control the audio block of the board
+  baseband       diagnostics command baseband: run, read or control the baseband block of the board
+  battery        diagnostics command battery: run, read or control the battery block of the board
+  bl             diagnostics command bl: run, read or control the bl block of the board
+  bluetooth      diagnostics command bluetooth: run, read or control the bluetooth block of the board
+  buck           diagnostics command buck: run, read or control the buck block of the board
+  buckcheck      diagnostics command buckcheck: run, read or control the buckcheck block of the board
+  buttoncnt      diagnostics command buttoncnt: run, read or control the buttoncnt block of the board
+  camisp         diagnostics command camisp: run, read or control the camisp block of the board
+  charge         diagnostics command charge: run, read or control the charge block of the board
+  compass        diagnostics command compass: run, read or control the compass block of the board
+  consoleinit    diagnostics command consoleinit: run, read or control the consoleinit block of the board
+  device         diagnostics command device: run, read or control the device block of the board
+  diags          diagnostics command diags: run, read or control the diags block of the board
+  display        diagnostics command display: run, read or control the display block of the board
+  dock           diagnostics command dock: run, read or control the dock block of the board
+  exit           diagnostics command exit: run, read or control the exit block of the board
+  gps            diagnostics command gps: run, read or control the gps block of the board
+  gyro           diagnostics command gyro: run, read or control the gyro block of the board
+  help           diagnostics command help: run, read or control the help block of the board
+  hydra          diagnostics command hydra: run, read or control the hydra block of the board
+  i2c            diagnostics command i2c: run, read or control the i2c block of the board
+  mic            diagnostics command mic: run, read or control the mic block of the board
+  nand           diagnostics command nand: run, read or control the nand block of the board
+  nandsize       diagnostics command nandsize: run, read or control the nandsize block of the board
+  nanduid        diagnostics command nanduid: run, read or control the nanduid block of the board
+  pmuadc         diagnostics command pmuadc: run, read or control the pmuadc block of the board
+  pmureg         diagnostics command pmureg: run, read or control the pmureg block of the board
+  prox           diagnostics command prox: run, read or control the prox block of the board
+  reset          diagnostics command reset: run, read or control the reset block of the board
+  rtc            diagnostics command rtc: run, read or control the rtc block of the board
+  sensor         diagnostics command sensor: run, read or control the sensor block of the board
+  shutdown       diagnostics command shutdown: run, read or control the shutdown block of the board
+  smokey         diagnostics command smokey: run, read or control the smokey block of the board
+  soc            diagnostics command soc: run, read or control the soc block of the board
+  speaker        diagnostics command speaker: run, read or control the speaker block of the board
+  syscfg         diagnostics command syscfg: run, read or control the syscfg block of the board
+  temp           diagnostics command temp: run, read or control the temp block of the board
+  testmemory     diagnostics command testmemory: run, read or control the testmemory block of the board
+  touch          diagnostics command touch: run, read or control the touch block of the board
+  tristar        diagnostics command tristar: run, read or control the tristar block of the board
+  usb            diagnostics command usb: run, read or control the usb block of the board
+  version        diagnostics command version: run, read or control the version block of the board
+  vibrator       diagnostics command vibrator: run, read or control the vibrator block of the board
+  wifi           diagnostics command wifi: run, read or control the wifi block of the board
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
 INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6', 'i2c -s 0',
@@ -853,6 +328,12 @@ tigris vdd : 3783.300 mV
 tigris die_temp : 31.25 C
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6', 'Reset',
+replace('
+Reset', char(10), char(13, 10)) || char(13) || replace('
+Resetting device...
+[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
+'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
 INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6', 'syscfg list',
 replace('
 syscfg list', char(10), char(13, 10)) || char(13) || replace('
@@ -945,9 +426,9 @@ memory test random       Passed
 testmemory: Passed
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6', 'testmemory --1MB',
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6', 'TESTMEMORY --1MB',
 replace('
-testmemory --1MB', char(10), char(13, 10)) || char(13) || replace('
+TESTMEMORY --1MB', char(10), char(13, 10)) || char(13) || replace('
 testmemory 1MB read/write, 256 blocks of 4 KiB
 block   0 addr 0x800000000 pattern 0x55555555 write ok read ok
 block   0 addr 0x800000000 pattern 0xAAAAAAAA write ok read ok
@@ -1561,591 +1042,6 @@ replace('
 Button count test ended
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6 Plus', 'BUTTONCNT --DQE',
-replace('
-BUTTONCNT --DQE', char(10), char(13, 10)) || char(13) || replace('
-Button count test running, results on the device screen
-Send /q to quit
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6 Plus', 'Help',
-replace('
-Help', char(10), char(13, 10)) || char(13) || replace('
-Available commands (type <command> --help for options):
-  accel          diagnostics command accel: run, read or control the accel block of the board
-  als            diagnostics command als: run, read or control the als block of the board
-  audio          diagnostics command audio: run, read or control the audio block of the board
-  baseband       diagnostics command baseband: run, read or control the baseband block of the board
-  battery        diagnostics command battery: run, read or control the battery block of the board
-  bl             diagnostics command bl: run, read or control the bl block of the board
-  bluetooth      diagnostics command bluetooth: run, read or control the bluetooth block of the board
-  buck           diagnostics command buck: run, read or control the buck block of the board
-  buckcheck      diagnostics command buckcheck: run, read or control the buckcheck block of the board
-  buttoncnt      diagnostics command buttoncnt: run, read or control the buttoncnt block of the board
-  camisp         diagnostics command camisp: run, read or control the camisp block of the board
-  charge         diagnostics command charge: run, read or control the charge block of the board
-  compass        diagnostics command compass: run, read or control the compass block of the board
-  consoleinit    diagnostics command consoleinit: run, read or control the consoleinit block of the board
-  device         diagnostics command device: run, read or control the device block of the board
-  diags          diagnostics command diags: run, read or control the diags block of the board
-  display        diagnostics command display: run, read or control the display block of the board
-  dock           diagnostics command dock: run, read or control the dock block of the board
-  exit           diagnostics command exit: run, read or control the exit block of the board
-  gps            diagnostics command gps: run, read or control the gps block of the board
-  gyro           diagnostics command gyro: run, read or control the gyro block of the board
-  help           diagnostics command help: run, read or control the help block of the board
-  hydra          diagnostics command hydra: run, read or control the hydra block of the board
-  i2c            diagnostics command i2c: run, read or control the i2c block of the board
-  mic            diagnostics command mic: run, read or control the mic block of the board
-  nand           diagnostics command nand: run, read or control the nand block of the board
-  nandsize       diagnostics command nandsize: run, read or control the nandsize block of the board
-  nanduid        diagnostics command nanduid: run, read or control the nanduid block of the board
-  pmuadc         diagnostics command pmuadc: run, read or control the pmuadc block of the board
-  pmureg         diagnostics command pmureg: run, read or control the pmureg block of the board
-  prox           diagnostics command prox: run, read or control the prox block of the board
-  reset          diagnostics command reset: run, read or control the reset block of the board
-  rtc            diagnostics command rtc: run, read or control the rtc block of the board
-  sensor         diagnostics command sensor: run, read or control the sensor block of the board
-  shutdown       diagnostics command shutdown: run, read or control the shutdown block of the board
-  smokey         diagnostics command smokey: run, read or control the smokey block of the board
-  soc            diagnostics command soc: run, read or control the soc block of the board
-  speaker        diagnostics command speaker: run, read or control the speaker block of the board
-  syscfg         diagnostics command syscfg: run, read or control the syscfg block of the board
-  temp           diagnostics command temp: run, read or control the temp block of the board
-  testmemory     diagnostics command testmemory: run, read or control the testmemory block of the board
-  touch          diagnostics command touch: run, read or control the touch block of the board
-  tristar        diagnostics command tristar: run, read or control the tristar block of the board
-  usb            diagnostics command usb: run, read or control the usb block of the board
-  version        diagnostics command version: run, read or control the version block of the board
-  vibrator       diagnostics command vibrator: run, read or control the vibrator block of the board
-  wifi           diagnostics command wifi: run, read or control the wifi block of the board
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6 Plus', 'Reset',
-replace('
-Reset', char(10), char(13, 10)) || char(13) || replace('
-Resetting device...
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6 Plus', 'TESTMEMORY --1MB',
-replace('
-TESTMEMORY --1MB', char(10), char(13, 10)) || char(13) || replace('
-testmemory 1MB read/write, 256 blocks of 4 KiB
-block   0 addr 0x800000000 pattern 0x55555555 write ok read ok
-block   0 addr 0x800000000 pattern 0xAAAAAAAA write ok read ok
-block   1 addr 0x800001000 pattern 0x55555555 write ok read ok
-block   1 addr 0x800001000 pattern 0xAAAAAAAA write ok read ok
-block   2 addr 0x800002000 pattern 0x55555555 write ok read ok
-block   2 addr 0x800002000 pattern 0xAAAAAAAA write ok read ok
-block   3 addr 0x800003000 pattern 0x55555555 write ok read ok
-block   3 addr 0x800003000 pattern 0xAAAAAAAA write ok read ok
-block   4 addr 0x800004000 pattern 0x55555555 write ok read ok
-block   4 addr 0x800004000 pattern 0xAAAAAAAA write ok read ok
-block   5 addr 0x800005000 pattern 0x55555555 write ok read ok
-block   5 addr 0x800005000 pattern 0xAAAAAAAA write ok read ok
-block   6 addr 0x800006000 pattern 0x55555555 write ok read ok
-block   6 addr 0x800006000 pattern 0xAAAAAAAA write ok read ok
-block   7 addr 0x800007000 pattern 0x55555555 write ok read ok
-block   7 addr 0x800007000 pattern 0xAAAAAAAA write ok read ok
-block   8 addr 0x800008000 pattern 0x55555555 write ok read ok
-block   8 addr 0x800008000 pattern 0xAAAAAAAA write ok read ok
-block   9 addr 0x800009000 pattern 0x55555555 write ok read ok
-block   9 addr 0x800009000 pattern 0xAAAAAAAA write ok read ok
-block  10 addr 0x80000A000 pattern 0x55555555 write ok read ok
-block  10 addr 0x80000A000 pattern 0xAAAAAAAA write ok read ok
-block  11 addr 0x80000B000 pattern 0x55555555 write ok read ok
-block  11 addr 0x80000B000 pattern 0xAAAAAAAA write ok read ok
-block  12 addr 0x80000C000 pattern 0x55555555 write ok read ok
-block  12 addr 0x80000C000 pattern 0xAAAAAAAA write ok read ok
-block  13 addr 0x80000D000 pattern 0x55555555 write ok read ok
-block  13 addr 0x80000D000 pattern 0xAAAAAAAA write ok read ok
-block  14 addr 0x80000E000 pattern 0x55555555 write ok read ok
-block  14 addr 0x80000E000 pattern 0xAAAAAAAA write ok read ok
-block  15 addr 0x80000F000 pattern 0x55555555 write ok read ok
-block  15 addr 0x80000F000 pattern 0xAAAAAAAA write ok read ok
-block  16 addr 0x800010000 pattern 0x55555555 write ok read ok
-block  16 addr 0x800010000 pattern 0xAAAAAAAA write ok read ok
-block  17 addr 0x800011000 pattern 0x55555555 write ok read ok
-block  17 addr 0x800011000 pattern 0xAAAAAAAA write ok read ok
-block  18 addr 0x800012000 pattern 0x55555555 write ok read ok
-block  18 addr 0x800012000 pattern 0xAAAAAAAA write ok read ok
-block  19 addr 0x800013000 pattern 0x55555555 write ok read ok
-block  19 addr 0x800013000 pattern 0xAAAAAAAA write ok read ok
-block  20 addr 0x800014000 pattern 0x55555555 write ok read ok
-block  20 addr 0x800014000 pattern 0xAAAAAAAA write ok read ok
-block  21 addr 0x800015000 pattern 0x55555555 write ok read ok
-block  21 addr 0x800015000 pattern 0xAAAAAAAA write ok read ok
-block  22 addr 0x800016000 pattern 0x55555555 write ok read ok
-block  22 addr 0x800016000 pattern 0xAAAAAAAA write ok read ok
-block  23 addr 0x800017000 pattern 0x55555555 write ok read ok
-block  23 addr 0x800017000 pattern 0xAAAAAAAA write ok read ok
-block  24 addr 0x800018000 pattern 0x55555555 write ok read ok
-block  24 addr 0x800018000 pattern 0xAAAAAAAA write ok read ok
-block  25 addr 0x800019000 pattern 0x55555555 write ok read ok
-block  25 addr 0x800019000 pattern 0xAAAAAAAA write ok read ok
-block  26 addr 0x80001A000 pattern 0x55555555 write ok read ok
-block  26 addr 0x80001A000 pattern 0xAAAAAAAA write ok read ok
-block  27 addr 0x80001B000 pattern 0x55555555 write ok read ok
-block  27 addr 0x80001B000 pattern 0xAAAAAAAA write ok read ok
-block  28 addr 0x80001C000 pattern 0x55555555 write ok read ok
-block  28 addr 0x80001C000 pattern 0xAAAAAAAA write ok read ok
-block  29 addr 0x80001D000 pattern 0x55555555 write ok read ok
-block  29 addr 0x80001D000 pattern 0xAAAAAAAA write ok read ok
-block  30 addr 0x80001E000 pattern 0x55555555 write ok read ok
-block  30 addr 0x80001E000 pattern 0xAAAAAAAA write ok read ok
-block  31 addr 0x80001F000 pattern 0x55555555 write ok read ok
-block  31 addr 0x80001F000 pattern 0xAAAAAAAA write ok read ok
-block  32 addr 0x800020000 pattern 0x55555555 write ok read ok
-block  32 addr 0x800020000 pattern 0xAAAAAAAA write ok read ok
-block  33 addr 0x800021000 pattern 0x55555555 write ok read ok
-block  33 addr 0x800021000 pattern 0xAAAAAAAA write ok read ok
-block  34 addr 0x800022000 pattern 0x55555555 write ok read ok
-block  34 addr 0x800022000 pattern 0xAAAAAAAA write ok read ok
-block  35 addr 0x800023000 pattern 0x55555555 write ok read ok
-block  35 addr 0x800023000 pattern 0xAAAAAAAA write ok read ok
-block  36 addr 0x800024000 pattern 0x55555555 write ok read ok
-block  36 addr 0x800024000 pattern 0xAAAAAAAA write ok read ok
-block  37 addr 0x800025000 pattern 0x55555555 write ok read ok
-block  37 addr 0x800025000 pattern 0xAAAAAAAA write ok read ok
-block  38 addr 0x800026000 pattern 0x55555555 write ok read ok
-block  38 addr 0x800026000 pattern 0xAAAAAAAA write ok read ok
-block  39 addr 0x800027000 pattern 0x55555555 write ok read ok
-block  39 addr 0x800027000 pattern 0xAAAAAAAA write ok read ok
-block  40 addr 0x800028000 pattern 0x55555555 write ok read ok
-block  40 addr 0x800028000 pattern 0xAAAAAAAA write ok read ok
-block  41 addr 0x800029000 pattern 0x55555555 write ok read ok
-block  41 addr 0x800029000 pattern 0xAAAAAAAA write ok read ok
-block  42 addr 0x80002A000 pattern 0x55555555 write ok read ok
-block  42 addr 0x80002A000 pattern 0xAAAAAAAA write ok read ok
-block  43 addr 0x80002B000 pattern 0x55555555 write ok read ok
-block  43 addr 0x80002B000 pattern 0xAAAAAAAA write ok read ok
-block  44 addr 0x80002C000 pattern 0x55555555 write ok read ok
-block  44 addr 0x80002C000 pattern 0xAAAAAAAA write ok read ok
-block  45 addr 0x80002D000 pattern 0x55555555 write ok read ok
-block  45 addr 0x80002D000 pattern 0xAAAAAAAA write ok read ok
-block  46 addr 0x80002E000 pattern 0x55555555 write ok read ok
-block  46 addr 0x80002E000 pattern 0xAAAAAAAA write ok read ok
-block  47 addr 0x80002F000 pattern 0x55555555 write ok read ok
-block  47 addr 0x80002F000 pattern 0xAAAAAAAA write ok read ok
-block  48 addr 0x800030000 pattern 0x55555555 write ok read ok
-block  48 addr 0x800030000 pattern 0xAAAAAAAA write ok read ok
-block  49 addr 0x800031000 pattern 0x55555555 write ok read ok
-block  49 addr 0x800031000 pattern 0xAAAAAAAA write ok read ok
-block  50 addr 0x800032000 pattern 0x55555555 write ok read ok
-block  50 addr 0x800032000 pattern 0xAAAAAAAA write ok read ok
-block  51 addr 0x800033000 pattern 0x55555555 write ok read ok
-block  51 addr 0x800033000 pattern 0xAAAAAAAA write ok read ok
-block  52 addr 0x800034000 pattern 0x55555555 write ok read ok
-block  52 addr 0x800034000 pattern 0xAAAAAAAA write ok read ok
-block  53 addr 0x800035000 pattern 0x55555555 write ok read ok
-block  53 addr 0x800035000 pattern 0xAAAAAAAA write ok read ok
-block  54 addr 0x800036000 pattern 0x55555555 write ok read ok
-block  54 addr 0x800036000 pattern 0xAAAAAAAA write ok read ok
-block  55 addr 0x800037000 pattern 0x55555555 write ok read ok
-block  55 addr 0x800037000 pattern 0xAAAAAAAA write ok read ok
-block  56 addr 0x800038000 pattern 0x55555555 write ok read ok
-block  56 addr 0x800038000 pattern 0xAAAAAAAA write ok read ok
-block  57 addr 0x800039000 pattern 0x55555555 write ok read ok
-block  57 addr 0x800039000 pattern 0xAAAAAAAA write ok read ok
-block  58 addr 0x80003A000 pattern 0x55555555 write ok read ok
-block  58 addr 0x80003A000 pattern 0xAAAAAAAA write ok read ok
-block  59 addr 0x80003B000 pattern 0x55555555 write ok read ok
-block  59 addr 0x80003B000 pattern 0xAAAAAAAA write ok read ok
-block  60 addr 0x80003C000 pattern 0x55555555 write ok read ok
-block  60 addr 0x80003C000 pattern 0xAAAAAAAA write ok read ok
-block  61 addr 0x80003D000 pattern 0x55555555 write ok read ok
-block  61 addr 0x80003D000 pattern 0xAAAAAAAA write ok read ok
-block  62 addr 0x80003E000 pattern 0x55555555 write ok read ok
-block  62 addr 0x80003E000 pattern 0xAAAAAAAA write ok read ok
-block  63 addr 0x80003F000 pattern 0x55555555 write ok read ok
-block  63 addr 0x80003F000 pattern 0xAAAAAAAA write ok read ok
-block  64 addr 0x800040000 pattern 0x55555555 write ok read ok
-block  64 addr 0x800040000 pattern 0xAAAAAAAA write ok read ok
-block  65 addr 0x800041000 pattern 0x55555555 write ok read ok
-block  65 addr 0x800041000 pattern 0xAAAAAAAA write ok read ok
-block  66 addr 0x800042000 pattern 0x55555555 write ok read ok
-block  66 addr 0x800042000 pattern 0xAAAAAAAA write ok read ok
-block  67 addr 0x800043000 pattern 0x55555555 write ok read ok
-block  67 addr 0x800043000 pattern 0xAAAAAAAA write ok read ok
-block  68 addr 0x800044000 pattern 0x55555555 write ok read ok
-block  68 addr 0x800044000 pattern 0xAAAAAAAA write ok read ok
-block  69 addr 0x800045000 pattern 0x55555555 write ok read ok
-block  69 addr 0x800045000 pattern 0xAAAAAAAA write ok read ok
-block  70 addr 0x800046000 pattern 0x55555555 write ok read ok
-block  70 addr 0x800046000 pattern 0xAAAAAAAA write ok read ok
-block  71 addr 0x800047000 pattern 0x55555555 write ok read ok
-block  71 addr 0x800047000 pattern 0xAAAAAAAA write ok read ok
-block  72 addr 0x800048000 pattern 0x55555555 write ok read ok
-block  72 addr 0x800048000 pattern 0xAAAAAAAA write ok read ok
-block  73 addr 0x800049000 pattern 0x55555555 write ok read ok
-block  73 addr 0x800049000 pattern 0xAAAAAAAA write ok read ok
-block  74 addr 0x80004A000 pattern 0x55555555 write ok read ok
-block  74 addr 0x80004A000 pattern 0xAAAAAAAA write ok read ok
-block  75 addr 0x80004B000 pattern 0x55555555 write ok read ok
-block  75 addr 0x80004B000 pattern 0xAAAAAAAA write ok read ok
-block  76 addr 0x80004C000 pattern 0x55555555 write ok read ok
-block  76 addr 0x80004C000 pattern 0xAAAAAAAA write ok read ok
-block  77 addr 0x80004D000 pattern 0x55555555 write ok read ok
-block  77 addr 0x80004D000 pattern 0xAAAAAAAA write ok read ok
-block  78 addr 0x80004E000 pattern 0x55555555 write ok read ok
-block  78 addr 0x80004E000 pattern 0xAAAAAAAA write ok read ok
-block  79 addr 0x80004F000 pattern 0x55555555 write ok read ok
-block  79 addr 0x80004F000 pattern 0xAAAAAAAA write ok read ok
-block  80 addr 0x800050000 pattern 0x55555555 write ok read ok
-block  80 addr 0x800050000 pattern 0xAAAAAAAA write ok read ok
-block  81 addr 0x800051000 pattern 0x55555555 write ok read ok
-block  81 addr 0x800051000 pattern 0xAAAAAAAA write ok read ok
-block  82 addr 0x800052000 pattern 0x55555555 write ok read ok
-block  82 addr 0x800052000 pattern 0xAAAAAAAA write ok read ok
-block  83 addr 0x800053000 pattern 0x55555555 write ok read ok
-block  83 addr 0x800053000 pattern 0xAAAAAAAA write ok read ok
-block  84 addr 0x800054000 pattern 0x55555555 write ok read ok
-block  84 addr 0x800054000 pattern 0xAAAAAAAA write ok read ok
-block  85 addr 0x800055000 pattern 0x55555555 write ok read ok
-block  85 addr 0x800055000 pattern 0xAAAAAAAA write ok read ok
-block  86 addr 0x800056000 pattern 0x55555555 write ok read ok
-block  86 addr 0x800056000 pattern 0xAAAAAAAA write ok read ok
-block  87 addr 0x800057000 pattern 0x55555555 write ok read ok
-block  87 addr 0x800057000 pattern 0xAAAAAAAA write ok read ok
-block  88 addr 0x800058000 pattern 0x55555555 write ok read ok
-block  88 addr 0x800058000 pattern 0xAAAAAAAA write ok read ok
-block  89 addr 0x800059000 pattern 0x55555555 write ok read ok
-block  89 addr 0x800059000 pattern 0xAAAAAAAA write ok read ok
-block  90 addr 0x80005A000 pattern 0x55555555 write ok read ok
-block  90 addr 0x80005A000 pattern 0xAAAAAAAA write ok read ok
-block  91 addr 0x80005B000 pattern 0x55555555 write ok read ok
-block  91 addr 0x80005B000 pattern 0xAAAAAAAA write ok read ok
-block  92 addr 0x80005C000 pattern 0x55555555 write ok read ok
-block  92 addr 0x80005C000 pattern 0xAAAAAAAA write ok read ok
-block  93 addr 0x80005D000 pattern 0x55555555 write ok read ok
-block  93 addr 0x80005D000 pattern 0xAAAAAAAA write ok read ok
-block  94 addr 0x80005E000 pattern 0x55555555 write ok read ok
-block  94 addr 0x80005E000 pattern 0xAAAAAAAA write ok read ok
-block  95 addr 0x80005F000 pattern 0x55555555 write ok read ok
-block  95 addr 0x80005F000 pattern 0xAAAAAAAA write ok read ok
-block  96 addr 0x800060000 pattern 0x55555555 write ok read ok
-block  96 addr 0x800060000 pattern 0xAAAAAAAA write ok read ok
-block  97 addr 0x800061000 pattern 0x55555555 write ok read ok
-block  97 addr 0x800061000 pattern 0xAAAAAAAA write ok read ok
-block  98 addr 0x800062000 pattern 0x55555555 write ok read ok
-block  98 addr 0x800062000 pattern 0xAAAAAAAA write ok read ok
-block  99 addr 0x800063000 pattern 0x55555555 write ok read ok
-block  99 addr 0x800063000 pattern 0xAAAAAAAA write ok read ok
-block 100 addr 0x800064000 pattern 0x55555555 write ok read ok
-block 100 addr 0x800064000 pattern 0xAAAAAAAA write ok read ok
-block 101 addr 0x800065000 pattern 0x55555555 write ok read ok
-block 101 addr 0x800065000 pattern 0xAAAAAAAA write ok read ok
-block 102 addr 0x800066000 pattern 0x55555555 write ok read ok
-block 102 addr 0x800066000 pattern 0xAAAAAAAA write ok read ok
-block 103 addr 0x800067000 pattern 0x55555555 write ok read ok
-block 103 addr 0x800067000 pattern 0xAAAAAAAA write ok read ok
-block 104 addr 0x800068000 pattern 0x55555555 write ok read ok
-block 104 addr 0x800068000 pattern 0xAAAAAAAA write ok read ok
-block 105 addr 0x800069000 pattern 0x55555555 write ok read ok
-block 105 addr 0x800069000 pattern 0xAAAAAAAA write ok read ok
-block 106 addr 0x80006A000 pattern 0x55555555 write ok read ok
-block 106 addr 0x80006A000 pattern 0xAAAAAAAA write ok read ok
-block 107 addr 0x80006B000 pattern 0x55555555 write ok read ok
-block 107 addr 0x80006B000 pattern 0xAAAAAAAA write ok read ok
-block 108 addr 0x80006C000 pattern 0x55555555 write ok read ok
-block 108 addr 0x80006C000 pattern 0xAAAAAAAA write ok read ok
-block 109 addr 0x80006D000 pattern 0x55555555 write ok read ok
-block 109 addr 0x80006D000 pattern 0xAAAAAAAA write ok read ok
-block 110 addr 0x80006E000 pattern 0x55555555 write ok read ok
-block 110 addr 0x80006E000 pattern 0xAAAAAAAA write ok read ok
-block 111 addr 0x80006F000 pattern 0x55555555 write ok read ok
-block 111 addr 0x80006F000 pattern 0xAAAAAAAA write ok read ok
-block 112 addr 0x800070000 pattern 0x55555555 write ok read ok
-block 112 addr 0x800070000 pattern 0xAAAAAAAA write ok read ok
-block 113 addr 0x800071000 pattern 0x55555555 write ok read ok
-block 113 addr 0x800071000 pattern 0xAAAAAAAA write ok read ok
-block 114 addr 0x800072000 pattern 0x55555555 write ok read ok
-block 114 addr 0x800072000 pattern 0xAAAAAAAA write ok read ok
-block 115 addr 0x800073000 pattern 0x55555555 write ok read ok
-block 115 addr 0x800073000 pattern 0xAAAAAAAA write ok read ok
-block 116 addr 0x800074000 pattern 0x55555555 write ok read ok
-block 116 addr 0x800074000 pattern 0xAAAAAAAA write ok read ok
-block 117 addr 0x800075000 pattern 0x55555555 write ok read ok
-block 117 addr 0x800075000 pattern 0xAAAAAAAA write ok read ok
-block 118 addr 0x800076000 pattern 0x55555555 write ok read ok
-block 118 addr 0x800076000 pattern 0xAAAAAAAA write ok read ok
-block 119 addr 0x800077000 pattern 0x55555555 write ok read ok
-block 119 addr 0x800077000 pattern 0xAAAAAAAA write ok read ok
-block 120 addr 0x800078000 pattern 0x55555555 write ok read ok
-block 120 addr 0x800078000 pattern 0xAAAAAAAA write ok read ok
-block 121 addr 0x800079000 pattern 0x55555555 write ok read ok
-block 121 addr 0x800079000 pattern 0xAAAAAAAA write ok read ok
-block 122 addr 0x80007A000 pattern 0x55555555 write ok read ok
-block 122 addr 0x80007A000 pattern 0xAAAAAAAA write ok read ok
-block 123 addr 0x80007B000 pattern 0x55555555 write ok read ok
-block 123 addr 0x80007B000 pattern 0xAAAAAAAA write ok read ok
-block 124 addr 0x80007C000 pattern 0x55555555 write ok read ok
-block 124 addr 0x80007C000 pattern 0xAAAAAAAA write ok read ok
-block 125 addr 0x80007D000 pattern 0x55555555 write ok read ok
-block 125 addr 0x80007D000 pattern 0xAAAAAAAA write ok read ok
-block 126 addr 0x80007E000 pattern 0x55555555 write ok read ok
-block 126 addr 0x80007E000 pattern 0xAAAAAAAA write ok read ok
-block 127 addr 0x80007F000 pattern 0x55555555 write ok read ok
-block 127 addr 0x80007F000 pattern 0xAAAAAAAA write ok read ok
-block 128 addr 0x800080000 pattern 0x55555555 write ok read ok
-block 128 addr 0x800080000 pattern 0xAAAAAAAA write ok read ok
-block 129 addr 0x800081000 pattern 0x55555555 write ok read ok
-block 129 addr 0x800081000 pattern 0xAAAAAAAA write ok read ok
-block 130 addr 0x800082000 pattern 0x55555555 write ok read ok
-block 130 addr 0x800082000 pattern 0xAAAAAAAA write ok read ok
-block 131 addr 0x800083000 pattern 0x55555555 write ok read ok
-block 131 addr 0x800083000 pattern 0xAAAAAAAA write ok read ok
-block 132 addr 0x800084000 pattern 0x55555555 write ok read ok
-block 132 addr 0x800084000 pattern 0xAAAAAAAA write ok read ok
-block 133 addr 0x800085000 pattern 0x55555555 write ok read ok
-block 133 addr 0x800085000 pattern 0xAAAAAAAA write ok read ok
-block 134 addr 0x800086000 pattern 0x55555555 write ok read ok
-block 134 addr 0x800086000 pattern 0xAAAAAAAA write ok read ok
-block 135 addr 0x800087000 pattern 0x55555555 write ok read ok
-block 135 addr 0x800087000 pattern 0xAAAAAAAA write ok read ok
-block 136 addr 0x800088000 pattern 0x55555555 write ok read ok
-block 136 addr 0x800088000 pattern 0xAAAAAAAA write ok read ok
-block 137 addr 0x800089000 pattern 0x55555555 write ok read ok
-block 137 addr 0x800089000 pattern 0xAAAAAAAA write ok read ok
-block 138 addr 0x80008A000 pattern 0x55555555 write ok read ok
-block 138 addr 0x80008A000 pattern 0xAAAAAAAA write ok read ok
-block 139 addr 0x80008B000 pattern 0x55555555 write ok read ok
-block 139 addr 0x80008B000 pattern 0xAAAAAAAA write ok read ok
-block 140 addr 0x80008C000 pattern 0x55555555 write ok read ok
-block 140 addr 0x80008C000 pattern 0xAAAAAAAA write ok read ok
-block 141 addr 0x80008D000 pattern 0x55555555 write ok read ok
-block 141 addr 0x80008D000 pattern 0xAAAAAAAA write ok read ok
-block 142 addr 0x80008E000 pattern 0x55555555 write ok read ok
-block 142 addr 0x80008E000 pattern 0xAAAAAAAA write ok read ok
-block 143 addr 0x80008F000 pattern 0x55555555 write ok read ok
-block 143 addr 0x80008F000 pattern 0xAAAAAAAA write ok read ok
-block 144 addr 0x800090000 pattern 0x55555555 write ok read ok
-block 144 addr 0x800090000 pattern 0xAAAAAAAA write ok read ok
-block 145 addr 0x800091000 pattern 0x55555555 write ok read ok
-block 145 addr 0x800091000 pattern 0xAAAAAAAA write ok read ok
-block 146 addr 0x800092000 pattern 0x55555555 write ok read ok
-block 146 addr 0x800092000 pattern 0xAAAAAAAA write ok read ok
-block 147 addr 0x800093000 pattern 0x55555555 write ok read ok
-block 147 addr 0x800093000 pattern 0xAAAAAAAA write ok read ok
-block 148 addr 0x800094000 pattern 0x55555555 write ok read ok
-block 148 addr 0x800094000 pattern 0xAAAAAAAA write ok read ok
-block 149 addr 0x800095000 pattern 0x55555555 write ok read ok
-block 149 addr 0x800095000 pattern 0xAAAAAAAA write ok read ok
-block 150 addr 0x800096000 pattern 0x55555555 write ok read ok
-block 150 addr 0x800096000 pattern 0xAAAAAAAA write ok read ok
-block 151 addr 0x800097000 pattern 0x55555555 write ok read ok
-block 151 addr 0x800097000 pattern 0xAAAAAAAA write ok read ok
-block 152 addr 0x800098000 pattern 0x55555555 write ok read ok
-block 152 addr 0x800098000 pattern 0xAAAAAAAA write ok read ok
-block 153 addr 0x800099000 pattern 0x55555555 write ok read ok
-block 153 addr 0x800099000 pattern 0xAAAAAAAA write ok read ok
-block 154 addr 0x80009A000 pattern 0x55555555 write ok read ok
-block 154 addr 0x80009A000 pattern 0xAAAAAAAA write ok read ok
-block 155 addr 0x80009B000 pattern 0x55555555 write ok read ok
-block 155 addr 0x80009B000 pattern 0xAAAAAAAA write ok read ok
-block 156 addr 0x80009C000 pattern 0x55555555 write ok read ok
-block 156 addr 0x80009C000 pattern 0xAAAAAAAA write ok read ok
-block 157 addr 0x80009D000 pattern 0x55555555 write ok read ok
-block 157 addr 0x80009D000 pattern 0xAAAAAAAA write ok read ok
-block 158 addr 0x80009E000 pattern 0x55555555 write ok read ok
-block 158 addr 0x80009E000 pattern 0xAAAAAAAA write ok read ok
-block 159 addr 0x80009F000 pattern 0x55555555 write ok read ok
-block 159 addr 0x80009F000 pattern 0xAAAAAAAA write ok read ok
-block 160 addr 0x8000A0000 pattern 0x55555555 write ok read ok
-block 160 addr 0x8000A0000 pattern 0xAAAAAAAA write ok read ok
-block 161 addr 0x8000A1000 pattern 0x55555555 write ok read ok
-block 161 addr 0x8000A1000 pattern 0xAAAAAAAA write ok read ok
-block 162 addr 0x8000A2000 pattern 0x55555555 write ok read ok
-block 162 addr 0x8000A2000 pattern 0xAAAAAAAA write ok read ok
-block 163 addr 0x8000A3000 pattern 0x55555555 write ok read ok
-block 163 addr 0x8000A3000 pattern 0xAAAAAAAA write ok read ok
-block 164 addr 0x8000A4000 pattern 0x55555555 write ok read ok
-block 164 addr 0x8000A4000 pattern 0xAAAAAAAA write ok read ok
-block 165 addr 0x8000A5000 pattern 0x55555555 write ok read ok
-block 165 addr 0x8000A5000 pattern 0xAAAAAAAA write ok read ok
-block 166 addr 0x8000A6000 pattern 0x55555555 write ok read ok
-block 166 addr 0x8000A6000 pattern 0xAAAAAAAA write ok read ok
-block 167 addr 0x8000A7000 pattern 0x55555555 write ok read ok
-block 167 addr 0x8000A7000 pattern 0xAAAAAAAA write ok read ok
-block 168 addr 0x8000A8000 pattern 0x55555555 write ok read ok
-block 168 addr 0x8000A8000 pattern 0xAAAAAAAA write ok read ok
-block 169 addr 0x8000A9000 pattern 0x55555555 write ok read ok
-block 169 addr 0x8000A9000 pattern 0xAAAAAAAA write ok read ok
-block 170 addr 0x8000AA000 pattern 0x55555555 write ok read ok
-block 170 addr 0x8000AA000 pattern 0xAAAAAAAA write ok read ok
-block 171 addr 0x8000AB000 pattern 0x55555555 write ok read ok
-block 171 addr 0x8000AB000 pattern 0xAAAAAAAA write ok read ok
-block 172 addr 0x8000AC000 pattern 0x55555555 write ok read ok
-block 172 addr 0x8000AC000 pattern 0xAAAAAAAA write ok read ok
-block 173 addr 0x8000AD000 pattern 0x55555555 write ok read ok
-block 173 addr 0x8000AD000 pattern 0xAAAAAAAA write ok read ok
-block 174 addr 0x8000AE000 pattern 0x55555555 write ok read ok
-block 174 addr 0x8000AE000 pattern 0xAAAAAAAA write ok read ok
-block 175 addr 0x8000AF000 pattern 0x55555555 write ok read ok
-block 175 addr 0x8000AF000 pattern 0xAAAAAAAA write ok read ok
-block 176 addr 0x8000B0000 pattern 0x55555555 write ok read ok
-block 176 addr 0x8000B0000 pattern 0xAAAAAAAA write ok read ok
-block 177 addr 0x8000B1000 pattern 0x55555555 write ok read ok
-block 177 addr 0x8000B1000 pattern 0xAAAAAAAA write ok read ok
-block 178 addr 0x8000B2000 pattern 0x55555555 write ok read ok
-block 178 addr 0x8000B2000 pattern 0xAAAAAAAA write ok read ok
-block 179 addr 0x8000B3000 pattern 0x55555555 write ok read ok
-block 179 addr 0x8000B3000 pattern 0xAAAAAAAA write ok read ok
-block 180 addr 0x8000B4000 pattern 0x55555555 write ok read ok
-block 180 addr 0x8000B4000 pattern 0xAAAAAAAA write ok read ok
-block 181 addr 0x8000B5000 pattern 0x55555555 write ok read ok
-block 181 addr 0x8000B5000 pattern 0xAAAAAAAA write ok read ok
-block 182 addr 0x8000B6000 pattern 0x55555555 write ok read ok
-block 182 addr 0x8000B6000 pattern 0xAAAAAAAA write ok read ok
-block 183 addr 0x8000B7000 pattern 0x55555555 write ok read ok
-block 183 addr 0x8000B7000 pattern 0xAAAAAAAA write ok read ok
-block 184 addr 0x8000B8000 pattern 0x55555555 write ok read ok
-block 184 addr 0x8000B8000 pattern 0xAAAAAAAA write ok read ok
-block 185 addr 0x8000B9000 pattern 0x55555555 write ok read ok
-block 185 addr 0x8000B9000 pattern 0xAAAAAAAA write ok read ok
-block 186 addr 0x8000BA000 pattern 0x55555555 write ok read ok
-block 186 addr 0x8000BA000 pattern 0xAAAAAAAA write ok read ok
-block 187 addr 0x8000BB000 pattern 0x55555555 write ok read ok
-block 187 addr 0x8000BB000 pattern 0xAAAAAAAA write ok read ok
-block 188 addr 0x8000BC000 pattern 0x55555555 write ok read ok
-block 188 addr 0x8000BC000 pattern 0xAAAAAAAA write ok read ok
-block 189 addr 0x8000BD000 pattern 0x55555555 write ok read ok
-block 189 addr 0x8000BD000 pattern 0xAAAAAAAA write ok read ok
-block 190 addr 0x8000BE000 pattern 0x55555555 write ok read ok
-block 190 addr 0x8000BE000 pattern 0xAAAAAAAA write ok read ok
-block 191 addr 0x8000BF000 pattern 0x55555555 write ok read ok
-block 191 addr 0x8000BF000 pattern 0xAAAAAAAA write ok read ok
-block 192 addr 0x8000C0000 pattern 0x55555555 write ok read ok
-block 192 addr 0x8000C0000 pattern 0xAAAAAAAA write ok read ok
-block 193 addr 0x8000C1000 pattern 0x55555555 write ok read ok
-block 193 addr 0x8000C1000 pattern 0xAAAAAAAA write ok read ok
-block 194 addr 0x8000C2000 pattern 0x55555555 write ok read ok
-block 194 addr 0x8000C2000 pattern 0xAAAAAAAA write ok read ok
-block 195 addr 0x8000C3000 pattern 0x55555555 write ok read ok
-block 195 addr 0x8000C3000 pattern 0xAAAAAAAA write ok read ok
-block 196 addr 0x8000C4000 pattern 0x55555555 write ok read ok
-block 196 addr 0x8000C4000 pattern 0xAAAAAAAA write ok read ok
-block 197 addr 0x8000C5000 pattern 0x55555555 write ok read ok
-block 197 addr 0x8000C5000 pattern 0xAAAAAAAA write ok read ok
-block 198 addr 0x8000C6000 pattern 0x55555555 write ok read ok
-block 198 addr 0x8000C6000 pattern 0xAAAAAAAA write ok read ok
-block 199 addr 0x8000C7000 pattern 0x55555555 write ok read ok
-block 199 addr 0x8000C7000 pattern 0xAAAAAAAA write ok read ok
-block 200 addr 0x8000C8000 pattern 0x55555555 write ok read ok
-block 200 addr 0x8000C8000 pattern 0xAAAAAAAA write ok read ok
-block 201 addr 0x8000C9000 pattern 0x55555555 write ok read ok
-block 201 addr 0x8000C9000 pattern 0xAAAAAAAA write ok read ok
-block 202 addr 0x8000CA000 pattern 0x55555555 write ok read ok
-block 202 addr 0x8000CA000 pattern 0xAAAAAAAA write ok read ok
-block 203 addr 0x8000CB000 pattern 0x55555555 write ok read ok
-block 203 addr 0x8000CB000 pattern 0xAAAAAAAA write ok read ok
-block 204 addr 0x8000CC000 pattern 0x55555555 write ok read ok
-block 204 addr 0x8000CC000 pattern 0xAAAAAAAA write ok read ok
-block 205 addr 0x8000CD000 pattern 0x55555555 write ok read ok
-block 205 addr 0x8000CD000 pattern 0xAAAAAAAA write ok read ok
-block 206 addr 0x8000CE000 pattern 0x55555555 write ok read ok
-block 206 addr 0x8000CE000 pattern 0xAAAAAAAA write ok read ok
-block 207 addr 0x8000CF000 pattern 0x55555555 write ok read ok
-block 207 addr 0x8000CF000 pattern 0xAAAAAAAA write ok read ok
-block 208 addr 0x8000D0000 pattern 0x55555555 write ok read ok
-block 208 addr 0x8000D0000 pattern 0xAAAAAAAA write ok read ok
-block 209 addr 0x8000D1000 pattern 0x55555555 write ok read ok
-block 209 addr 0x8000D1000 pattern 0xAAAAAAAA write ok read ok
-block 210 addr 0x8000D2000 pattern 0x55555555 write ok read ok
-block 210 addr 0x8000D2000 pattern 0xAAAAAAAA write ok read ok
-block 211 addr 0x8000D3000 pattern 0x55555555 write ok read ok
-block 211 addr 0x8000D3000 pattern 0xAAAAAAAA write ok read ok
-block 212 addr 0x8000D4000 pattern 0x55555555 write ok read ok
-block 212 addr 0x8000D4000 pattern 0xAAAAAAAA write ok read ok
-block 213 addr 0x8000D5000 pattern 0x55555555 write ok read ok
-block 213 addr 0x8000D5000 pattern 0xAAAAAAAA write ok read ok
-block 214 addr 0x8000D6000 pattern 0x55555555 write ok read ok
-block 214 addr 0x8000D6000 pattern 0xAAAAAAAA write ok read ok
-block 215 addr 0x8000D7000 pattern 0x55555555 write ok read ok
-block 215 addr 0x8000D7000 pattern 0xAAAAAAAA write ok read ok
-block 216 addr 0x8000D8000 pattern 0x55555555 write ok read ok
-block 216 addr 0x8000D8000 pattern 0xAAAAAAAA write ok read ok
-block 217 addr 0x8000D9000 pattern 0x55555555 write ok read ok
-block 217 addr 0x8000D9000 pattern 0xAAAAAAAA write ok read ok
-block 218 addr 0x8000DA000 pattern 0x55555555 write ok read ok
-block 218 addr 0x8000DA000 pattern 0xAAAAAAAA write ok read ok
-block 219 addr 0x8000DB000 pattern 0x55555555 write ok read ok
-block 219 addr 0x8000DB000 pattern 0xAAAAAAAA write ok read ok
-block 220 addr 0x8000DC000 pattern 0x55555555 write ok read ok
-block 220 addr 0x8000DC000 pattern 0xAAAAAAAA write ok read ok
-block 221 addr 0x8000DD000 pattern 0x55555555 write ok read ok
-block 221 addr 0x8000DD000 pattern 0xAAAAAAAA write ok read ok
-block 222 addr 0x8000DE000 pattern 0x55555555 write ok read ok
-block 222 addr 0x8000DE000 pattern 0xAAAAAAAA write ok read ok
-block 223 addr 0x8000DF000 pattern 0x55555555 write ok read ok
-block 223 addr 0x8000DF000 pattern 0xAAAAAAAA write ok read ok
-block 224 addr 0x8000E0000 pattern 0x55555555 write ok read ok
-block 224 addr 0x8000E0000 pattern 0xAAAAAAAA write ok read ok
-block 225 addr 0x8000E1000 pattern 0x55555555 write ok read ok
-block 225 addr 0x8000E1000 pattern 0xAAAAAAAA write ok read ok
-block 226 addr 0x8000E2000 pattern 0x55555555 write ok read ok
-block 226 addr 0x8000E2000 pattern 0xAAAAAAAA write ok read ok
-block 227 addr 0x8000E3000 pattern 0x55555555 write ok read ok
-block 227 addr 0x8000E3000 pattern 0xAAAAAAAA write ok read ok
-block 228 addr 0x8000E4000 pattern 0x55555555 write ok read ok
-block 228 addr 0x8000E4000 pattern 0xAAAAAAAA write ok read ok
-block 229 addr 0x8000E5000 pattern 0x55555555 write ok read ok
-block 229 addr 0x8000E5000 pattern 0xAAAAAAAA write ok read ok
-block 230 addr 0x8000E6000 pattern 0x55555555 write ok read ok
-block 230 addr 0x8000E6000 pattern 0xAAAAAAAA write ok read ok
-block 231 addr 0x8000E7000 pattern 0x55555555 write ok read ok
-block 231 addr 0x8000E7000 pattern 0xAAAAAAAA write ok read ok
-block 232 addr 0x8000E8000 pattern 0x55555555 write ok read ok
-block 232 addr 0x8000E8000 pattern 0xAAAAAAAA write ok read ok
-block 233 addr 0x8000E9000 pattern 0x55555555 write ok read ok
-block 233 addr 0x8000E9000 pattern 0xAAAAAAAA write ok read ok
-block 234 addr 0x8000EA000 pattern 0x55555555 write ok read ok
-block 234 addr 0x8000EA000 pattern 0xAAAAAAAA write ok read ok
-block 235 addr 0x8000EB000 pattern 0x55555555 write ok read ok
-block 235 addr 0x8000EB000 pattern 0xAAAAAAAA write ok read ok
-block 236 addr 0x8000EC000 pattern 0x55555555 write ok read ok
-block 236 addr 0x8000EC000 pattern 0xAAAAAAAA write ok read ok
-block 237 addr 0x8000ED000 pattern 0x55555555 write ok read ok
-block 237 addr 0x8000ED000 pattern 0xAAAAAAAA write ok read ok
-block 238 addr 0x8000EE000 pattern 0x55555555 write ok read ok
-block 238 addr 0x8000EE000 pattern 0xAAAAAAAA write ok read ok
-block 239 addr 0x8000EF000 pattern 0x55555555 write ok read ok
-block 239 addr 0x8000EF000 pattern 0xAAAAAAAA write ok read ok
-block 240 addr 0x8000F0000 pattern 0x55555555 write ok read ok
-block 240 addr 0x8000F0000 pattern 0xAAAAAAAA write ok read ok
-block 241 addr 0x8000F1000 pattern 0x55555555 write ok read ok
-block 241 addr 0x8000F1000 pattern 0xAAAAAAAA write ok read ok
-block 242 addr 0x8000F2000 pattern 0x55555555 write ok read ok
-block 242 addr 0x8000F2000 pattern 0xAAAAAAAA write ok read ok
-block 243 addr 0x8000F3000 pattern 0x55555555 write ok read ok
-block 243 addr 0x8000F3000 pattern 0xAAAAAAAA write ok read ok
-block 244 addr 0x8000F4000 pattern 0x55555555 write ok read ok
-block 244 addr 0x8000F4000 pattern 0xAAAAAAAA write ok read ok
-block 245 addr 0x8000F5000 pattern 0x55555555 write ok read ok
-block 245 addr 0x8000F5000 pattern 0xAAAAAAAA write ok read ok
-block 246 addr 0x8000F6000 pattern 0x55555555 write ok read ok
-block 246 addr 0x8000F6000 pattern 0xAAAAAAAA write ok read ok
-block 247 addr 0x8000F7000 pattern 0x55555555 write ok read ok
-block 247 addr 0x8000F7000 pattern 0xAAAAAAAA write ok read ok
-block 248 addr 0x8000F8000 pattern 0x55555555 write ok read ok
-block 248 addr 0x8000F8000 pattern 0xAAAAAAAA write ok read ok
-block 249 addr 0x8000F9000 pattern 0x55555555 write ok read ok
-block 249 addr 0x8000F9000 pattern 0xAAAAAAAA write ok read ok
-block 250 addr 0x8000FA000 pattern 0x55555555 write ok read ok
-block 250 addr 0x8000FA000 pattern 0xAAAAAAAA write ok read ok
-block 251 addr 0x8000FB000 pattern 0x55555555 write ok read ok
-block 251 addr 0x8000FB000 pattern 0xAAAAAAAA write ok read ok
-block 252 addr 0x8000FC000 pattern 0x55555555 write ok read ok
-block 252 addr 0x8000FC000 pattern 0xAAAAAAAA write ok read ok
-block 253 addr 0x8000FD000 pattern 0x55555555 write ok read ok
-block 253 addr 0x8000FD000 pattern 0xAAAAAAAA write ok read ok
-block 254 addr 0x8000FE000 pattern 0x55555555 write ok read ok
-block 254 addr 0x8000FE000 pattern 0xAAAAAAAA write ok read ok
-block 255 addr 0x8000FF000 pattern 0x55555555 write ok read ok
-block 255 addr 0x8000FF000 pattern 0xAAAAAAAA write ok read ok
-testmemory --1MB: Passed
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
 INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6 Plus', 'baseband --off',
 replace('
 baseband --off', char(10), char(13, 10)) || char(13) || replace('
@@ -2268,6 +1164,66 @@ replace('
 buckcheck 5', char(10), char(13, 10)) || char(13) || replace('
 buckcheck starting, please wait
 buck5 target 1060 mV measured 1063.063 mV PASS
+[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
+'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6 Plus', 'BUTTONCNT --DQE',
+replace('
+BUTTONCNT --DQE', char(10), char(13, 10)) || char(13) || replace('
+Button count test running, results on the device screen
+Send /q to quit
+[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
+'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6 Plus', 'Help',
+replace('
+Help', char(10), char(13, 10)) || char(13) || replace('
+Available commands (type <command> --help for options):
+  accel          diagnostics command accel: run, read or control the accel block of the board
+  als            diagnostics command als: run, read or control the als block of the board
+  audio          diagnostics command audio: run, read or control the audio block of the board
+  baseband       diagnostics command baseband: run, read or control the baseband block of the board
+  battery        diagnostics command battery: run, read or control the battery block of the board
+  bl             diagnostics command bl: run, read or control the bl block of the board
+  bluetooth      diagnostics command bluetooth: run, read or control the bluetooth block of the board
+  buck           diagnostics command buck: run, read or control the buck block of the board
+  buckcheck      diagnostics command buckcheck: run, read or control the buckcheck block of the board
+  buttoncnt      diagnostics command buttoncnt: run, read or control the buttoncnt block of the board
+  camisp         diagnostics command camisp: run, read or control the camisp block of the board
+  charge         diagnostics command charge: run, read or control the charge block of the board
+  compass        diagnostics command compass: run, read or control the compass block of the board
+  consoleinit    diagnostics command consoleinit: run, read or control the consoleinit block of the board
+  device         diagnostics command device: run, read or control the device block of the board
+  diags          diagnostics command diags: run, read or control the diags block of the board
+  display        diagnostics command display: run, read or control the display block of the board
+  dock           diagnostics command dock: run, read or control the dock block of the board
+  exit           diagnostics command exit: run, read or control the exit block of the board
+  gps            diagnostics command gps: run, read or control the gps block of the board
+  gyro           diagnostics command gyro: run, read or control the gyro block of the board
+  help           diagnostics command help: run, read or control the help block of the board
+  hydra          diagnostics command hydra: run, read or control the hydra block of the board
+  i2c            diagnostics command i2c: run, read or control the i2c block of the board
+  mic            diagnostics command mic: run, read or control the mic block of the board
+  nand           diagnostics command nand: run, read or control the nand block of the board
+  nandsize       diagnostics command nandsize: run, read or control the nandsize block of the board
+  nanduid        diagnostics command nanduid: run, read or control the nanduid block of the board
+  pmuadc         diagnostics command pmuadc: run, read or control the pmuadc block of the board
+  pmureg         diagnostics command pmureg: run, read or control the pmureg block of the board
+  prox           diagnostics command prox: run, read or control the prox block of the board
+  reset          diagnostics command reset: run, read or control the reset block of the board
+  rtc            diagnostics command rtc: run, read or control the rtc block of the board
+  sensor         diagnostics command sensor: run, read or control the sensor block of the board
+  shutdown       diagnostics command shutdown: run, read or control the shutdown block of the board
+  smokey         diagnostics command smokey: run, read or control the smokey block of the board
+  soc            diagnostics command soc: run, read or control the soc block of the board
+  speaker        diagnostics command speaker: run, read or control the speaker block of the board
+  syscfg         diagnostics command syscfg: run, read or control the syscfg block of the board
+  temp           diagnostics command temp: run, read or control the temp block of the board
+  testmemory     diagnostics command testmemory: run, read or control the testmemory block of the board
+  touch          diagnostics command touch: run, read or control the touch block of the board
+  tristar        diagnostics command tristar: run, read or control the tristar block of the board
+  usb            diagnostics command usb: run, read or control the usb block of the board
+  version        diagnostics command version: run, read or control the version block of the board
+  vibrator       diagnostics command vibrator: run, read or control the vibrator block of the board
+  wifi           diagnostics command wifi: run, read or control the wifi block of the board
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
 INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6 Plus', 'i2c -s 0',
@@ -2406,6 +1362,12 @@ tigris vdd : 3784.256 mV
 tigris die_temp : 31.25 C
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6 Plus', 'Reset',
+replace('
+Reset', char(10), char(13, 10)) || char(13) || replace('
+Resetting device...
+[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
+'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
 INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6 Plus', 'syscfg list',
 replace('
 syscfg list', char(10), char(13, 10)) || char(13) || replace('
@@ -2498,9 +1460,9 @@ memory test random       Passed
 testmemory: Passed
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6 Plus', 'testmemory --1MB',
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6 Plus', 'TESTMEMORY --1MB',
 replace('
-testmemory --1MB', char(10), char(13, 10)) || char(13) || replace('
+TESTMEMORY --1MB', char(10), char(13, 10)) || char(13) || replace('
 testmemory 1MB read/write, 256 blocks of 4 KiB
 block   0 addr 0x800000000 pattern 0x55555555 write ok read ok
 block   0 addr 0x800000000 pattern 0xAAAAAAAA write ok read ok
@@ -3114,591 +2076,6 @@ replace('
 Button count test ended
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6s', 'BUTTONCNT --DQE',
-replace('
-BUTTONCNT --DQE', char(10), char(13, 10)) || char(13) || replace('
-Button count test running, results on the device screen
-Send /q to quit
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6s', 'Help',
-replace('
-Help', char(10), char(13, 10)) || char(13) || replace('
-Available commands (type <command> --help for options):
-  accel          diagnostics command accel: run, read or control the accel block of the board
-  als            diagnostics command als: run, read or control the als block of the board
-  audio          diagnostics command audio: run, read or control the audio block of the board
-  baseband       diagnostics command baseband: run, read or control the baseband block of the board
-  battery        diagnostics command battery: run, read or control the battery block of the board
-  bl             diagnostics command bl: run, read or control the bl block of the board
-  bluetooth      diagnostics command bluetooth: run, read or control the bluetooth block of the board
-  buck           diagnostics command buck: run, read or control the buck block of the board
-  buckcheck      diagnostics command buckcheck: run, read or control the buckcheck block of the board
-  buttoncnt      diagnostics command buttoncnt: run, read or control the buttoncnt block of the board
-  camisp         diagnostics command camisp: run, read or control the camisp block of the board
-  charge         diagnostics command charge: run, read or control the charge block of the board
-  compass        diagnostics command compass: run, read or control the compass block of the board
-  consoleinit    diagnostics command consoleinit: run, read or control the consoleinit block of the board
-  device         diagnostics command device: run, read or control the device block of the board
-  diags          diagnostics command diags: run, read or control the diags block of the board
-  display        diagnostics command display: run, read or control the display block of the board
-  dock           diagnostics command dock: run, read or control the dock block of the board
-  exit           diagnostics command exit: run, read or control the exit block of the board
-  gps            diagnostics command gps: run, read or control the gps block of the board
-  gyro           diagnostics command gyro: run, read or control the gyro block of the board
-  help           diagnostics command help: run, read or control the help block of the board
-  hydra          diagnostics command hydra: run, read or control the hydra block of the board
-  i2c            diagnostics command i2c: run, read or control the i2c block of the board
-  mic            diagnostics command mic: run, read or control the mic block of the board
-  nand           diagnostics command nand: run, read or control the nand block of the board
-  nandsize       diagnostics command nandsize: run, read or control the nandsize block of the board
-  nanduid        diagnostics command nanduid: run, read or control the nanduid block of the board
-  pmuadc         diagnostics command pmuadc: run, read or control the pmuadc block of the board
-  pmureg         diagnostics command pmureg: run, read or control the pmureg block of the board
-  prox           diagnostics command prox: run, read or control the prox block of the board
-  reset          diagnostics command reset: run, read or control the reset block of the board
-  rtc            diagnostics command rtc: run, read or control the rtc block of the board
-  sensor         diagnostics command sensor: run, read or control the sensor block of the board
-  shutdown       diagnostics command shutdown: run, read or control the shutdown block of the board
-  smokey         diagnostics command smokey: run, read or control the smokey block of the board
-  soc            diagnostics command soc: run, read or control the soc block of the board
-  speaker        diagnostics command speaker: run, read or control the speaker block of the board
-  syscfg         diagnostics command syscfg: run, read or control the syscfg block of the board
-  temp           diagnostics command temp: run, read or control the temp block of the board
-  testmemory     diagnostics command testmemory: run, read or control the testmemory block of the board
-  touch          diagnostics command touch: run, read or control the touch block of the board
-  tristar        diagnostics command tristar: run, read or control the tristar block of the board
-  usb            diagnostics command usb: run, read or control the usb block of the board
-  version        diagnostics command version: run, read or control the version block of the board
-  vibrator       diagnostics command vibrator: run, read or control the vibrator block of the board
-  wifi           diagnostics command wifi: run, read or control the wifi block of the board
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6s', 'Reset',
-replace('
-Reset', char(10), char(13, 10)) || char(13) || replace('
-Resetting device...
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6s', 'TESTMEMORY --1MB',
-replace('
-TESTMEMORY --1MB', char(10), char(13, 10)) || char(13) || replace('
-testmemory 1MB read/write, 256 blocks of 4 KiB
-block   0 addr 0x800000000 pattern 0x55555555 write ok read ok
-block   0 addr 0x800000000 pattern 0xAAAAAAAA write ok read ok
-block   1 addr 0x800001000 pattern 0x55555555 write ok read ok
-block   1 addr 0x800001000 pattern 0xAAAAAAAA write ok read ok
-block   2 addr 0x800002000 pattern 0x55555555 write ok read ok
-block   2 addr 0x800002000 pattern 0xAAAAAAAA write ok read ok
-block   3 addr 0x800003000 pattern 0x55555555 write ok read ok
-block   3 addr 0x800003000 pattern 0xAAAAAAAA write ok read ok
-block   4 addr 0x800004000 pattern 0x55555555 write ok read ok
-block   4 addr 0x800004000 pattern 0xAAAAAAAA write ok read ok
-block   5 addr 0x800005000 pattern 0x55555555 write ok read ok
-block   5 addr 0x800005000 pattern 0xAAAAAAAA write ok read ok
-block   6 addr 0x800006000 pattern 0x55555555 write ok read ok
-block   6 addr 0x800006000 pattern 0xAAAAAAAA write ok read ok
-block   7 addr 0x800007000 pattern 0x55555555 write ok read ok
-block   7 addr 0x800007000 pattern 0xAAAAAAAA write ok read ok
-block   8 addr 0x800008000 pattern 0x55555555 write ok read ok
-block   8 addr 0x800008000 pattern 0xAAAAAAAA write ok read ok
-block   9 addr 0x800009000 pattern 0x55555555 write ok read ok
-block   9 addr 0x800009000 pattern 0xAAAAAAAA write ok read ok
-block  10 addr 0x80000A000 pattern 0x55555555 write ok read ok
-block  10 addr 0x80000A000 pattern 0xAAAAAAAA write ok read ok
-block  11 addr 0x80000B000 pattern 0x55555555 write ok read ok
-block  11 addr 0x80000B000 pattern 0xAAAAAAAA write ok read ok
-block  12 addr 0x80000C000 pattern 0x55555555 write ok read ok
-block  12 addr 0x80000C000 pattern 0xAAAAAAAA write ok read ok
-block  13 addr 0x80000D000 pattern 0x55555555 write ok read ok
-block  13 addr 0x80000D000 pattern 0xAAAAAAAA write ok read ok
-block  14 addr 0x80000E000 pattern 0x55555555 write ok read ok
-block  14 addr 0x80000E000 pattern 0xAAAAAAAA write ok read ok
-block  15 addr 0x80000F000 pattern 0x55555555 write ok read ok
-block  15 addr 0x80000F000 pattern 0xAAAAAAAA write ok read ok
-block  16 addr 0x800010000 pattern 0x55555555 write ok read ok
-block  16 addr 0x800010000 pattern 0xAAAAAAAA write ok read ok
-block  17 addr 0x800011000 pattern 0x55555555 write ok read ok
-block  17 addr 0x800011000 pattern 0xAAAAAAAA write ok read ok
-block  18 addr 0x800012000 pattern 0x55555555 write ok read ok
-block  18 addr 0x800012000 pattern 0xAAAAAAAA write ok read ok
-block  19 addr 0x800013000 pattern 0x55555555 write ok read ok
-block  19 addr 0x800013000 pattern 0xAAAAAAAA write ok read ok
-block  20 addr 0x800014000 pattern 0x55555555 write ok read ok
-block  20 addr 0x800014000 pattern 0xAAAAAAAA write ok read ok
-block  21 addr 0x800015000 pattern 0x55555555 write ok read ok
-block  21 addr 0x800015000 pattern 0xAAAAAAAA write ok read ok
-block  22 addr 0x800016000 pattern 0x55555555 write ok read ok
-block  22 addr 0x800016000 pattern 0xAAAAAAAA write ok read ok
-block  23 addr 0x800017000 pattern 0x55555555 write ok read ok
-block  23 addr 0x800017000 pattern 0xAAAAAAAA write ok read ok
-block  24 addr 0x800018000 pattern 0x55555555 write ok read ok
-block  24 addr 0x800018000 pattern 0xAAAAAAAA write ok read ok
-block  25 addr 0x800019000 pattern 0x55555555 write ok read ok
-block  25 addr 0x800019000 pattern 0xAAAAAAAA write ok read ok
-block  26 addr 0x80001A000 pattern 0x55555555 write ok read ok
-block  26 addr 0x80001A000 pattern 0xAAAAAAAA write ok read ok
-block  27 addr 0x80001B000 pattern 0x55555555 write ok read ok
-block  27 addr 0x80001B000 pattern 0xAAAAAAAA write ok read ok
-block  28 addr 0x80001C000 pattern 0x55555555 write ok read ok
-block  28 addr 0x80001C000 pattern 0xAAAAAAAA write ok read ok
-block  29 addr 0x80001D000 pattern 0x55555555 write ok read ok
-block  29 addr 0x80001D000 pattern 0xAAAAAAAA write ok read ok
-block  30 addr 0x80001E000 pattern 0x55555555 write ok read ok
-block  30 addr 0x80001E000 pattern 0xAAAAAAAA write ok read ok
-block  31 addr 0x80001F000 pattern 0x55555555 write ok read ok
-block  31 addr 0x80001F000 pattern 0xAAAAAAAA write ok read ok
-block  32 addr 0x800020000 pattern 0x55555555 write ok read ok
-block  32 addr 0x800020000 pattern 0xAAAAAAAA write ok read ok
-block  33 addr 0x800021000 pattern 0x55555555 write ok read ok
-block  33 addr 0x800021000 pattern 0xAAAAAAAA write ok read ok
-block  34 addr 0x800022000 pattern 0x55555555 write ok read ok
-block  34 addr 0x800022000 pattern 0xAAAAAAAA write ok read ok
-block  35 addr 0x800023000 pattern 0x55555555 write ok read ok
-block  35 addr 0x800023000 pattern 0xAAAAAAAA write ok read ok
-block  36 addr 0x800024000 pattern 0x55555555 write ok read ok
-block  36 addr 0x800024000 pattern 0xAAAAAAAA write ok read ok
-block  37 addr 0x800025000 pattern 0x55555555 write ok read ok
-block  37 addr 0x800025000 pattern 0xAAAAAAAA write ok read ok
-block  38 addr 0x800026000 pattern 0x55555555 write ok read ok
-block  38 addr 0x800026000 pattern 0xAAAAAAAA write ok read ok
-block  39 addr 0x800027000 pattern 0x55555555 write ok read ok
-block  39 addr 0x800027000 pattern 0xAAAAAAAA write ok read ok
-block  40 addr 0x800028000 pattern 0x55555555 write ok read ok
-block  40 addr 0x800028000 pattern 0xAAAAAAAA write ok read ok
-block  41 addr 0x800029000 pattern 0x55555555 write ok read ok
-block  41 addr 0x800029000 pattern 0xAAAAAAAA write ok read ok
-block  42 addr 0x80002A000 pattern 0x55555555 write ok read ok
-block  42 addr 0x80002A000 pattern 0xAAAAAAAA write ok read ok
-block  43 addr 0x80002B000 pattern 0x55555555 write ok read ok
-block  43 addr 0x80002B000 pattern 0xAAAAAAAA write ok read ok
-block  44 addr 0x80002C000 pattern 0x55555555 write ok read ok
-block  44 addr 0x80002C000 pattern 0xAAAAAAAA write ok read ok
-block  45 addr 0x80002D000 pattern 0x55555555 write ok read ok
-block  45 addr 0x80002D000 pattern 0xAAAAAAAA write ok read ok
-block  46 addr 0x80002E000 pattern 0x55555555 write ok read ok
-block  46 addr 0x80002E000 pattern 0xAAAAAAAA write ok read ok
-block  47 addr 0x80002F000 pattern 0x55555555 write ok read ok
-block  47 addr 0x80002F000 pattern 0xAAAAAAAA write ok read ok
-block  48 addr 0x800030000 pattern 0x55555555 write ok read ok
-block  48 addr 0x800030000 pattern 0xAAAAAAAA write ok read ok
-block  49 addr 0x800031000 pattern 0x55555555 write ok read ok
-block  49 addr 0x800031000 pattern 0xAAAAAAAA write ok read ok
-block  50 addr 0x800032000 pattern 0x55555555 write ok read ok
-block  50 addr 0x800032000 pattern 0xAAAAAAAA write ok read ok
-block  51 addr 0x800033000 pattern 0x55555555 write ok read ok
-block  51 addr 0x800033000 pattern 0xAAAAAAAA write ok read ok
-block  52 addr 0x800034000 pattern 0x55555555 write ok read ok
-block  52 addr 0x800034000 pattern 0xAAAAAAAA write ok read ok
-block  53 addr 0x800035000 pattern 0x55555555 write ok read ok
-block  53 addr 0x800035000 pattern 0xAAAAAAAA write ok read ok
-block  54 addr 0x800036000 pattern 0x55555555 write ok read ok
-block  54 addr 0x800036000 pattern 0xAAAAAAAA write ok read ok
-block  55 addr 0x800037000 pattern 0x55555555 write ok read ok
-block  55 addr 0x800037000 pattern 0xAAAAAAAA write ok read ok
-block  56 addr 0x800038000 pattern 0x55555555 write ok read ok
-block  56 addr 0x800038000 pattern 0xAAAAAAAA write ok read ok
-block  57 addr 0x800039000 pattern 0x55555555 write ok read ok
-block  57 addr 0x800039000 pattern 0xAAAAAAAA write ok read ok
-block  58 addr 0x80003A000 pattern 0x55555555 write ok read ok
-block  58 addr 0x80003A000 pattern 0xAAAAAAAA write ok read ok
-block  59 addr 0x80003B000 pattern 0x55555555 write ok read ok
-block  59 addr 0x80003B000 pattern 0xAAAAAAAA write ok read ok
-block  60 addr 0x80003C000 pattern 0x55555555 write ok read ok
-block  60 addr 0x80003C000 pattern 0xAAAAAAAA write ok read ok
-block  61 addr 0x80003D000 pattern 0x55555555 write ok read ok
-block  61 addr 0x80003D000 pattern 0xAAAAAAAA write ok read ok
-block  62 addr 0x80003E000 pattern 0x55555555 write ok read ok
-block  62 addr 0x80003E000 pattern 0xAAAAAAAA write ok read ok
-block  63 addr 0x80003F000 pattern 0x55555555 write ok read ok
-block  63 addr 0x80003F000 pattern 0xAAAAAAAA write ok read ok
-block  64 addr 0x800040000 pattern 0x55555555 write ok read ok
-block  64 addr 0x800040000 pattern 0xAAAAAAAA write ok read ok
-block  65 addr 0x800041000 pattern 0x55555555 write ok read ok
-block  65 addr 0x800041000 pattern 0xAAAAAAAA write ok read ok
-block  66 addr 0x800042000 pattern 0x55555555 write ok read ok
-block  66 addr 0x800042000 pattern 0xAAAAAAAA write ok read ok
-block  67 addr 0x800043000 pattern 0x55555555 write ok read ok
-block  67 addr 0x800043000 pattern 0xAAAAAAAA write ok read ok
-block  68 addr 0x800044000 pattern 0x55555555 write ok read ok
-block  68 addr 0x800044000 pattern 0xAAAAAAAA write ok read ok
-block  69 addr 0x800045000 pattern 0x55555555 write ok read ok
-block  69 addr 0x800045000 pattern 0xAAAAAAAA write ok read ok
-block  70 addr 0x800046000 pattern 0x55555555 write ok read ok
-block  70 addr 0x800046000 pattern 0xAAAAAAAA write ok read ok
-block  71 addr 0x800047000 pattern 0x55555555 write ok read ok
-block  71 addr 0x800047000 pattern 0xAAAAAAAA write ok read ok
-block  72 addr 0x800048000 pattern 0x55555555 write ok read ok
-block  72 addr 0x800048000 pattern 0xAAAAAAAA write ok read ok
-block  73 addr 0x800049000 pattern 0x55555555 write ok read ok
-block  73 addr 0x800049000 pattern 0xAAAAAAAA write ok read ok
-block  74 addr 0x80004A000 pattern 0x55555555 write ok read ok
-block  74 addr 0x80004A000 pattern 0xAAAAAAAA write ok read ok
-block  75 addr 0x80004B000 pattern 0x55555555 write ok read ok
-block  75 addr 0x80004B000 pattern 0xAAAAAAAA write ok read ok
-block  76 addr 0x80004C000 pattern 0x55555555 write ok read ok
-block  76 addr 0x80004C000 pattern 0xAAAAAAAA write ok read ok
-block  77 addr 0x80004D000 pattern 0x55555555 write ok read ok
-block  77 addr 0x80004D000 pattern 0xAAAAAAAA write ok read ok
-block  78 addr 0x80004E000 pattern 0x55555555 write ok read ok
-block  78 addr 0x80004E000 pattern 0xAAAAAAAA write ok read ok
-block  79 addr 0x80004F000 pattern 0x55555555 write ok read ok
-block  79 addr 0x80004F000 pattern 0xAAAAAAAA write ok read ok
-block  80 addr 0x800050000 pattern 0x55555555 write ok read ok
-block  80 addr 0x800050000 pattern 0xAAAAAAAA write ok read ok
-block  81 addr 0x800051000 pattern 0x55555555 write ok read ok
-block  81 addr 0x800051000 pattern 0xAAAAAAAA write ok read ok
-block  82 addr 0x800052000 pattern 0x55555555 write ok read ok
-block  82 addr 0x800052000 pattern 0xAAAAAAAA write ok read ok
-block  83 addr 0x800053000 pattern 0x55555555 write ok read ok
-block  83 addr 0x800053000 pattern 0xAAAAAAAA write ok read ok
-block  84 addr 0x800054000 pattern 0x55555555 write ok read ok
-block  84 addr 0x800054000 pattern 0xAAAAAAAA write ok read ok
-block  85 addr 0x800055000 pattern 0x55555555 write ok read ok
-block  85 addr 0x800055000 pattern 0xAAAAAAAA write ok read ok
-block  86 addr 0x800056000 pattern 0x55555555 write ok read ok
-block  86 addr 0x800056000 pattern 0xAAAAAAAA write ok read ok
-block  87 addr 0x800057000 pattern 0x55555555 write ok read ok
-block  87 addr 0x800057000 pattern 0xAAAAAAAA write ok read ok
-block  88 addr 0x800058000 pattern 0x55555555 write ok read ok
-block  88 addr 0x800058000 pattern 0xAAAAAAAA write ok read ok
-block  89 addr 0x800059000 pattern 0x55555555 write ok read ok
-block  89 addr 0x800059000 pattern 0xAAAAAAAA write ok read ok
-block  90 addr 0x80005A000 pattern 0x55555555 write ok read ok
-block  90 addr 0x80005A000 pattern 0xAAAAAAAA write ok read ok
-block  91 addr 0x80005B000 pattern 0x55555555 write ok read ok
-block  91 addr 0x80005B000 pattern 0xAAAAAAAA write ok read ok
-block  92 addr 0x80005C000 pattern 0x55555555 write ok read ok
-block  92 addr 0x80005C000 pattern 0xAAAAAAAA write ok read ok
-block  93 addr 0x80005D000 pattern 0x55555555 write ok read ok
-block  93 addr 0x80005D000 pattern 0xAAAAAAAA write ok read ok
-block  94 addr 0x80005E000 pattern 0x55555555 write ok read ok
-block  94 addr 0x80005E000 pattern 0xAAAAAAAA write ok read ok
-block  95 addr 0x80005F000 pattern 0x55555555 write ok read ok
-block  95 addr 0x80005F000 pattern 0xAAAAAAAA write ok read ok
-block  96 addr 0x800060000 pattern 0x55555555 write ok read ok
-block  96 addr 0x800060000 pattern 0xAAAAAAAA write ok read ok
-block  97 addr 0x800061000 pattern 0x55555555 write ok read ok
-block  97 addr 0x800061000 pattern 0xAAAAAAAA write ok read ok
-block  98 addr 0x800062000 pattern 0x55555555 write ok read ok
-block  98 addr 0x800062000 pattern 0xAAAAAAAA write ok read ok
-block  99 addr 0x800063000 pattern 0x55555555 write ok read ok
-block  99 addr 0x800063000 pattern 0xAAAAAAAA write ok read ok
-block 100 addr 0x800064000 pattern 0x55555555 write ok read ok
-block 100 addr 0x800064000 pattern 0xAAAAAAAA write ok read ok
-block 101 addr 0x800065000 pattern 0x55555555 write ok read ok
-block 101 addr 0x800065000 pattern 0xAAAAAAAA write ok read ok
-block 102 addr 0x800066000 pattern 0x55555555 write ok read ok
-block 102 addr 0x800066000 pattern 0xAAAAAAAA write ok read ok
-block 103 addr 0x800067000 pattern 0x55555555 write ok read ok
-block 103 addr 0x800067000 pattern 0xAAAAAAAA write ok read ok
-block 104 addr 0x800068000 pattern 0x55555555 write ok read ok
-block 104 addr 0x800068000 pattern 0xAAAAAAAA write ok read ok
-block 105 addr 0x800069000 pattern 0x55555555 write ok read ok
-block 105 addr 0x800069000 pattern 0xAAAAAAAA write ok read ok
-block 106 addr 0x80006A000 pattern 0x55555555 write ok read ok
-block 106 addr 0x80006A000 pattern 0xAAAAAAAA write ok read ok
-block 107 addr 0x80006B000 pattern 0x55555555 write ok read ok
-block 107 addr 0x80006B000 pattern 0xAAAAAAAA write ok read ok
-block 108 addr 0x80006C000 pattern 0x55555555 write ok read ok
-block 108 addr 0x80006C000 pattern 0xAAAAAAAA write ok read ok
-block 109 addr 0x80006D000 pattern 0x55555555 write ok read ok
-block 109 addr 0x80006D000 pattern 0xAAAAAAAA write ok read ok
-block 110 addr 0x80006E000 pattern 0x55555555 write ok read ok
-block 110 addr 0x80006E000 pattern 0xAAAAAAAA write ok read ok
-block 111 addr 0x80006F000 pattern 0x55555555 write ok read ok
-block 111 addr 0x80006F000 pattern 0xAAAAAAAA write ok read ok
-block 112 addr 0x800070000 pattern 0x55555555 write ok read ok
-block 112 addr 0x800070000 pattern 0xAAAAAAAA write ok read ok
-block 113 addr 0x800071000 pattern 0x55555555 write ok read ok
-block 113 addr 0x800071000 pattern 0xAAAAAAAA write ok read ok
-block 114 addr 0x800072000 pattern 0x55555555 write ok read ok
-block 114 addr 0x800072000 pattern 0xAAAAAAAA write ok read ok
-block 115 addr 0x800073000 pattern 0x55555555 write ok read ok
-block 115 addr 0x800073000 pattern 0xAAAAAAAA write ok read ok
-block 116 addr 0x800074000 pattern 0x55555555 write ok read ok
-block 116 addr 0x800074000 pattern 0xAAAAAAAA write ok read ok
-block 117 addr 0x800075000 pattern 0x55555555 write ok read ok
-block 117 addr 0x800075000 pattern 0xAAAAAAAA write ok read ok
-block 118 addr 0x800076000 pattern 0x55555555 write ok read ok
-block 118 addr 0x800076000 pattern 0xAAAAAAAA write ok read ok
-block 119 addr 0x800077000 pattern 0x55555555 write ok read ok
-block 119 addr 0x800077000 pattern 0xAAAAAAAA write ok read ok
-block 120 addr 0x800078000 pattern 0x55555555 write ok read ok
-block 120 addr 0x800078000 pattern 0xAAAAAAAA write ok read ok
-block 121 addr 0x800079000 pattern 0x55555555 write ok read ok
-block 121 addr 0x800079000 pattern 0xAAAAAAAA write ok read ok
-block 122 addr 0x80007A000 pattern 0x55555555 write ok read ok
-block 122 addr 0x80007A000 pattern 0xAAAAAAAA write ok read ok
-block 123 addr 0x80007B000 pattern 0x55555555 write ok read ok
-block 123 addr 0x80007B000 pattern 0xAAAAAAAA write ok read ok
-block 124 addr 0x80007C000 pattern 0x55555555 write ok read ok
-block 124 addr 0x80007C000 pattern 0xAAAAAAAA write ok read ok
-block 125 addr 0x80007D000 pattern 0x55555555 write ok read ok
-block 125 addr 0x80007D000 pattern 0xAAAAAAAA write ok read ok
-block 126 addr 0x80007E000 pattern 0x55555555 write ok read ok
-block 126 addr 0x80007E000 pattern 0xAAAAAAAA write ok read ok
-block 127 addr 0x80007F000 pattern 0x55555555 write ok read ok
-block 127 addr 0x80007F000 pattern 0xAAAAAAAA write ok read ok
-block 128 addr 0x800080000 pattern 0x55555555 write ok read ok
-block 128 addr 0x800080000 pattern 0xAAAAAAAA write ok read ok
-block 129 addr 0x800081000 pattern 0x55555555 write ok read ok
-block 129 addr 0x800081000 pattern 0xAAAAAAAA write ok read ok
-block 130 addr 0x800082000 pattern 0x55555555 write ok read ok
-block 130 addr 0x800082000 pattern 0xAAAAAAAA write ok read ok
-block 131 addr 0x800083000 pattern 0x55555555 write ok read ok
-block 131 addr 0x800083000 pattern 0xAAAAAAAA write ok read ok
-block 132 addr 0x800084000 pattern 0x55555555 write ok read ok
-block 132 addr 0x800084000 pattern 0xAAAAAAAA write ok read ok
-block 133 addr 0x800085000 pattern 0x55555555 write ok read ok
-block 133 addr 0x800085000 pattern 0xAAAAAAAA write ok read ok
-block 134 addr 0x800086000 pattern 0x55555555 write ok read ok
-block 134 addr 0x800086000 pattern 0xAAAAAAAA write ok read ok
-block 135 addr 0x800087000 pattern 0x55555555 write ok read ok
-block 135 addr 0x800087000 pattern 0xAAAAAAAA write ok read ok
-block 136 addr 0x800088000 pattern 0x55555555 write ok read ok
-block 136 addr 0x800088000 pattern 0xAAAAAAAA write ok read ok
-block 137 addr 0x800089000 pattern 0x55555555 write ok read ok
-block 137 addr 0x800089000 pattern 0xAAAAAAAA write ok read ok
-block 138 addr 0x80008A000 pattern 0x55555555 write ok read ok
-block 138 addr 0x80008A000 pattern 0xAAAAAAAA write ok read ok
-block 139 addr 0x80008B000 pattern 0x55555555 write ok read ok
-block 139 addr 0x80008B000 pattern 0xAAAAAAAA write ok read ok
-block 140 addr 0x80008C000 pattern 0x55555555 write ok read ok
-block 140 addr 0x80008C000 pattern 0xAAAAAAAA write ok read ok
-block 141 addr 0x80008D000 pattern 0x55555555 write ok read ok
-block 141 addr 0x80008D000 pattern 0xAAAAAAAA write ok read ok
-block 142 addr 0x80008E000 pattern 0x55555555 write ok read ok
-block 142 addr 0x80008E000 pattern 0xAAAAAAAA write ok read ok
-block 143 addr 0x80008F000 pattern 0x55555555 write ok read ok
-block 143 addr 0x80008F000 pattern 0xAAAAAAAA write ok read ok
-block 144 addr 0x800090000 pattern 0x55555555 write ok read ok
-block 144 addr 0x800090000 pattern 0xAAAAAAAA write ok read ok
-block 145 addr 0x800091000 pattern 0x55555555 write ok read ok
-block 145 addr 0x800091000 pattern 0xAAAAAAAA write ok read ok
-block 146 addr 0x800092000 pattern 0x55555555 write ok read ok
-block 146 addr 0x800092000 pattern 0xAAAAAAAA write ok read ok
-block 147 addr 0x800093000 pattern 0x55555555 write ok read ok
-block 147 addr 0x800093000 pattern 0xAAAAAAAA write ok read ok
-block 148 addr 0x800094000 pattern 0x55555555 write ok read ok
-block 148 addr 0x800094000 pattern 0xAAAAAAAA write ok read ok
-block 149 addr 0x800095000 pattern 0x55555555 write ok read ok
-block 149 addr 0x800095000 pattern 0xAAAAAAAA write ok read ok
-block 150 addr 0x800096000 pattern 0x55555555 write ok read ok
-block 150 addr 0x800096000 pattern 0xAAAAAAAA write ok read ok
-block 151 addr 0x800097000 pattern 0x55555555 write ok read ok
-block 151 addr 0x800097000 pattern 0xAAAAAAAA write ok read ok
-block 152 addr 0x800098000 pattern 0x55555555 write ok read ok
-block 152 addr 0x800098000 pattern 0xAAAAAAAA write ok read ok
-block 153 addr 0x800099000 pattern 0x55555555 write ok read ok
-block 153 addr 0x800099000 pattern 0xAAAAAAAA write ok read ok
-block 154 addr 0x80009A000 pattern 0x55555555 write ok read ok
-block 154 addr 0x80009A000 pattern 0xAAAAAAAA write ok read ok
-block 155 addr 0x80009B000 pattern 0x55555555 write ok read ok
-block 155 addr 0x80009B000 pattern 0xAAAAAAAA write ok read ok
-block 156 addr 0x80009C000 pattern 0x55555555 write ok read ok
-block 156 addr 0x80009C000 pattern 0xAAAAAAAA write ok read ok
-block 157 addr 0x80009D000 pattern 0x55555555 write ok read ok
-block 157 addr 0x80009D000 pattern 0xAAAAAAAA write ok read ok
-block 158 addr 0x80009E000 pattern 0x55555555 write ok read ok
-block 158 addr 0x80009E000 pattern 0xAAAAAAAA write ok read ok
-block 159 addr 0x80009F000 pattern 0x55555555 write ok read ok
-block 159 addr 0x80009F000 pattern 0xAAAAAAAA write ok read ok
-block 160 addr 0x8000A0000 pattern 0x55555555 write ok read ok
-block 160 addr 0x8000A0000 pattern 0xAAAAAAAA write ok read ok
-block 161 addr 0x8000A1000 pattern 0x55555555 write ok read ok
-block 161 addr 0x8000A1000 pattern 0xAAAAAAAA write ok read ok
-block 162 addr 0x8000A2000 pattern 0x55555555 write ok read ok
-block 162 addr 0x8000A2000 pattern 0xAAAAAAAA write ok read ok
-block 163 addr 0x8000A3000 pattern 0x55555555 write ok read ok
-block 163 addr 0x8000A3000 pattern 0xAAAAAAAA write ok read ok
-block 164 addr 0x8000A4000 pattern 0x55555555 write ok read ok
-block 164 addr 0x8000A4000 pattern 0xAAAAAAAA write ok read ok
-block 165 addr 0x8000A5000 pattern 0x55555555 write ok read ok
-block 165 addr 0x8000A5000 pattern 0xAAAAAAAA write ok read ok
-block 166 addr 0x8000A6000 pattern 0x55555555 write ok read ok
-block 166 addr 0x8000A6000 pattern 0xAAAAAAAA write ok read ok
-block 167 addr 0x8000A7000 pattern 0x55555555 write ok read ok
-block 167 addr 0x8000A7000 pattern 0xAAAAAAAA write ok read ok
-block 168 addr 0x8000A8000 pattern 0x55555555 write ok read ok
-block 168 addr 0x8000A8000 pattern 0xAAAAAAAA write ok read ok
-block 169 addr 0x8000A9000 pattern 0x55555555 write ok read ok
-block 169 addr 0x8000A9000 pattern 0xAAAAAAAA write ok read ok
-block 170 addr 0x8000AA000 pattern 0x55555555 write ok read ok
-block 170 addr 0x8000AA000 pattern 0xAAAAAAAA write ok read ok
-block 171 addr 0x8000AB000 pattern 0x55555555 write ok read ok
-block 171 addr 0x8000AB000 pattern 0xAAAAAAAA write ok read ok
-block 172 addr 0x8000AC000 pattern 0x55555555 write ok read ok
-block 172 addr 0x8000AC000 pattern 0xAAAAAAAA write ok read ok
-block 173 addr 0x8000AD000 pattern 0x55555555 write ok read ok
-block 173 addr 0x8000AD000 pattern 0xAAAAAAAA write ok read ok
-block 174 addr 0x8000AE000 pattern 0x55555555 write ok read ok
-block 174 addr 0x8000AE000 pattern 0xAAAAAAAA write ok read ok
-block 175 addr 0x8000AF000 pattern 0x55555555 write ok read ok
-block 175 addr 0x8000AF000 pattern 0xAAAAAAAA write ok read ok
-block 176 addr 0x8000B0000 pattern 0x55555555 write ok read ok
-block 176 addr 0x8000B0000 pattern 0xAAAAAAAA write ok read ok
-block 177 addr 0x8000B1000 pattern 0x55555555 write ok read ok
-block 177 addr 0x8000B1000 pattern 0xAAAAAAAA write ok read ok
-block 178 addr 0x8000B2000 pattern 0x55555555 write ok read ok
-block 178 addr 0x8000B2000 pattern 0xAAAAAAAA write ok read ok
-block 179 addr 0x8000B3000 pattern 0x55555555 write ok read ok
-block 179 addr 0x8000B3000 pattern 0xAAAAAAAA write ok read ok
-block 180 addr 0x8000B4000 pattern 0x55555555 write ok read ok
-block 180 addr 0x8000B4000 pattern 0xAAAAAAAA write ok read ok
-block 181 addr 0x8000B5000 pattern 0x55555555 write ok read ok
-block 181 addr 0x8000B5000 pattern 0xAAAAAAAA write ok read ok
-block 182 addr 0x8000B6000 pattern 0x55555555 write ok read ok
-block 182 addr 0x8000B6000 pattern 0xAAAAAAAA write ok read ok
-block 183 addr 0x8000B7000 pattern 0x55555555 write ok read ok
-block 183 addr 0x8000B7000 pattern 0xAAAAAAAA write ok read ok
-block 184 addr 0x8000B8000 pattern 0x55555555 write ok read ok
-block 184 addr 0x8000B8000 pattern 0xAAAAAAAA write ok read ok
-block 185 addr 0x8000B9000 pattern 0x55555555 write ok read ok
-block 185 addr 0x8000B9000 pattern 0xAAAAAAAA write ok read ok
-block 186 addr 0x8000BA000 pattern 0x55555555 write ok read ok
-block 186 addr 0x8000BA000 pattern 0xAAAAAAAA write ok read ok
-block 187 addr 0x8000BB000 pattern 0x55555555 write ok read ok
-block 187 addr 0x8000BB000 pattern 0xAAAAAAAA write ok read ok
-block 188 addr 0x8000BC000 pattern 0x55555555 write ok read ok
-block 188 addr 0x8000BC000 pattern 0xAAAAAAAA write ok read ok
-block 189 addr 0x8000BD000 pattern 0x55555555 write ok read ok
-block 189 addr 0x8000BD000 pattern 0xAAAAAAAA write ok read ok
-block 190 addr 0x8000BE000 pattern 0x55555555 write ok read ok
-block 190 addr 0x8000BE000 pattern 0xAAAAAAAA write ok read ok
-block 191 addr 0x8000BF000 pattern 0x55555555 write ok read ok
-block 191 addr 0x8000BF000 pattern 0xAAAAAAAA write ok read ok
-block 192 addr 0x8000C0000 pattern 0x55555555 write ok read ok
-block 192 addr 0x8000C0000 pattern 0xAAAAAAAA write ok read ok
-block 193 addr 0x8000C1000 pattern 0x55555555 write ok read ok
-block 193 addr 0x8000C1000 pattern 0xAAAAAAAA write ok read ok
-block 194 addr 0x8000C2000 pattern 0x55555555 write ok read ok
-block 194 addr 0x8000C2000 pattern 0xAAAAAAAA write ok read ok
-block 195 addr 0x8000C3000 pattern 0x55555555 write ok read ok
-block 195 addr 0x8000C3000 pattern 0xAAAAAAAA write ok read ok
-block 196 addr 0x8000C4000 pattern 0x55555555 write ok read ok
-block 196 addr 0x8000C4000 pattern 0xAAAAAAAA write ok read ok
-block 197 addr 0x8000C5000 pattern 0x55555555 write ok read ok
-block 197 addr 0x8000C5000 pattern 0xAAAAAAAA write ok read ok
-block 198 addr 0x8000C6000 pattern 0x55555555 write ok read ok
-block 198 addr 0x8000C6000 pattern 0xAAAAAAAA write ok read ok
-block 199 addr 0x8000C7000 pattern 0x55555555 write ok read ok
-block 199 addr 0x8000C7000 pattern 0xAAAAAAAA write ok read ok
-block 200 addr 0x8000C8000 pattern 0x55555555 write ok read ok
-block 200 addr 0x8000C8000 pattern 0xAAAAAAAA write ok read ok
-block 201 addr 0x8000C9000 pattern 0x55555555 write ok read ok
-block 201 addr 0x8000C9000 pattern 0xAAAAAAAA write ok read ok
-block 202 addr 0x8000CA000 pattern 0x55555555 write ok read ok
-block 202 addr 0x8000CA000 pattern 0xAAAAAAAA write ok read ok
-block 203 addr 0x8000CB000 pattern 0x55555555 write ok read ok
-block 203 addr 0x8000CB000 pattern 0xAAAAAAAA write ok read ok
-block 204 addr 0x8000CC000 pattern 0x55555555 write ok read ok
-block 204 addr 0x8000CC000 pattern 0xAAAAAAAA write ok read ok
-block 205 addr 0x8000CD000 pattern 0x55555555 write ok read ok
-block 205 addr 0x8000CD000 pattern 0xAAAAAAAA write ok read ok
-block 206 addr 0x8000CE000 pattern 0x55555555 write ok read ok
-block 206 addr 0x8000CE000 pattern 0xAAAAAAAA write ok read ok
-block 207 addr 0x8000CF000 pattern 0x55555555 write ok read ok
-block 207 addr 0x8000CF000 pattern 0xAAAAAAAA write ok read ok
-block 208 addr 0x8000D0000 pattern 0x55555555 write ok read ok
-block 208 addr 0x8000D0000 pattern 0xAAAAAAAA write ok read ok
-block 209 addr 0x8000D1000 pattern 0x55555555 write ok read ok
-block 209 addr 0x8000D1000 pattern 0xAAAAAAAA write ok read ok
-block 210 addr 0x8000D2000 pattern 0x55555555 write ok read ok
-block 210 addr 0x8000D2000 pattern 0xAAAAAAAA write ok read ok
-block 211 addr 0x8000D3000 pattern 0x55555555 write ok read ok
-block 211 addr 0x8000D3000 pattern 0xAAAAAAAA write ok read ok
-block 212 addr 0x8000D4000 pattern 0x55555555 write ok read ok
-block 212 addr 0x8000D4000 pattern 0xAAAAAAAA write ok read ok
-block 213 addr 0x8000D5000 pattern 0x55555555 write ok read ok
-block 213 addr 0x8000D5000 pattern 0xAAAAAAAA write ok read ok
-block 214 addr 0x8000D6000 pattern 0x55555555 write ok read ok
-block 214 addr 0x8000D6000 pattern 0xAAAAAAAA write ok read ok
-block 215 addr 0x8000D7000 pattern 0x55555555 write ok read ok
-block 215 addr 0x8000D7000 pattern 0xAAAAAAAA write ok read ok
-block 216 addr 0x8000D8000 pattern 0x55555555 write ok read ok
-block 216 addr 0x8000D8000 pattern 0xAAAAAAAA write ok read ok
-block 217 addr 0x8000D9000 pattern 0x55555555 write ok read ok
-block 217 addr 0x8000D9000 pattern 0xAAAAAAAA write ok read ok
-block 218 addr 0x8000DA000 pattern 0x55555555 write ok read ok
-block 218 addr 0x8000DA000 pattern 0xAAAAAAAA write ok read ok
-block 219 addr 0x8000DB000 pattern 0x55555555 write ok read ok
-block 219 addr 0x8000DB000 pattern 0xAAAAAAAA write ok read ok
-block 220 addr 0x8000DC000 pattern 0x55555555 write ok read ok
-block 220 addr 0x8000DC000 pattern 0xAAAAAAAA write ok read ok
-block 221 addr 0x8000DD000 pattern 0x55555555 write ok read ok
-block 221 addr 0x8000DD000 pattern 0xAAAAAAAA write ok read ok
-block 222 addr 0x8000DE000 pattern 0x55555555 write ok read ok
-block 222 addr 0x8000DE000 pattern 0xAAAAAAAA write ok read ok
-block 223 addr 0x8000DF000 pattern 0x55555555 write ok read ok
-block 223 addr 0x8000DF000 pattern 0xAAAAAAAA write ok read ok
-block 224 addr 0x8000E0000 pattern 0x55555555 write ok read ok
-block 224 addr 0x8000E0000 pattern 0xAAAAAAAA write ok read ok
-block 225 addr 0x8000E1000 pattern 0x55555555 write ok read ok
-block 225 addr 0x8000E1000 pattern 0xAAAAAAAA write ok read ok
-block 226 addr 0x8000E2000 pattern 0x55555555 write ok read ok
-block 226 addr 0x8000E2000 pattern 0xAAAAAAAA write ok read ok
-block 227 addr 0x8000E3000 pattern 0x55555555 write ok read ok
-block 227 addr 0x8000E3000 pattern 0xAAAAAAAA write ok read ok
-block 228 addr 0x8000E4000 pattern 0x55555555 write ok read ok
-block 228 addr 0x8000E4000 pattern 0xAAAAAAAA write ok read ok
-block 229 addr 0x8000E5000 pattern 0x55555555 write ok read ok
-block 229 addr 0x8000E5000 pattern 0xAAAAAAAA write ok read ok
-block 230 addr 0x8000E6000 pattern 0x55555555 write ok read ok
-block 230 addr 0x8000E6000 pattern 0xAAAAAAAA write ok read ok
-block 231 addr 0x8000E7000 pattern 0x55555555 write ok read ok
-block 231 addr 0x8000E7000 pattern 0xAAAAAAAA write ok read ok
-block 232 addr 0x8000E8000 pattern 0x55555555 write ok read ok
-block 232 addr 0x8000E8000 pattern 0xAAAAAAAA write ok read ok
-block 233 addr 0x8000E9000 pattern 0x55555555 write ok read ok
-block 233 addr 0x8000E9000 pattern 0xAAAAAAAA write ok read ok
-block 234 addr 0x8000EA000 pattern 0x55555555 write ok read ok
-block 234 addr 0x8000EA000 pattern 0xAAAAAAAA write ok read ok
-block 235 addr 0x8000EB000 pattern 0x55555555 write ok read ok
-block 235 addr 0x8000EB000 pattern 0xAAAAAAAA write ok read ok
-block 236 addr 0x8000EC000 pattern 0x55555555 write ok read ok
-block 236 addr 0x8000EC000 pattern 0xAAAAAAAA write ok read ok
-block 237 addr 0x8000ED000 pattern 0x55555555 write ok read ok
-block 237 addr 0x8000ED000 pattern 0xAAAAAAAA write ok read ok
-block 238 addr 0x8000EE000 pattern 0x55555555 write ok read ok
-block 238 addr 0x8000EE000 pattern 0xAAAAAAAA write ok read ok
-block 239 addr 0x8000EF000 pattern 0x55555555 write ok read ok
-block 239 addr 0x8000EF000 pattern 0xAAAAAAAA write ok read ok
-block 240 addr 0x8000F0000 pattern 0x55555555 write ok read ok
-block 240 addr 0x8000F0000 pattern 0xAAAAAAAA write ok read ok
-block 241 addr 0x8000F1000 pattern 0x55555555 write ok read ok
-block 241 addr 0x8000F1000 pattern 0xAAAAAAAA write ok read ok
-block 242 addr 0x8000F2000 pattern 0x55555555 write ok read ok
-block 242 addr 0x8000F2000 pattern 0xAAAAAAAA write ok read ok
-block 243 addr 0x8000F3000 pattern 0x55555555 write ok read ok
-block 243 addr 0x8000F3000 pattern 0xAAAAAAAA write ok read ok
-block 244 addr 0x8000F4000 pattern 0x55555555 write ok read ok
-block 244 addr 0x8000F4000 pattern 0xAAAAAAAA write ok read ok
-block 245 addr 0x8000F5000 pattern 0x55555555 write ok read ok
-block 245 addr 0x8000F5000 pattern 0xAAAAAAAA write ok read ok
-block 246 addr 0x8000F6000 pattern 0x55555555 write ok read ok
-block 246 addr 0x8000F6000 pattern 0xAAAAAAAA write ok read ok
-block 247 addr 0x8000F7000 pattern 0x55555555 write ok read ok
-block 247 addr 0x8000F7000 pattern 0xAAAAAAAA write ok read ok
-block 248 addr 0x8000F8000 pattern 0x55555555 write ok read ok
-block 248 addr 0x8000F8000 pattern 0xAAAAAAAA write ok read ok
-block 249 addr 0x8000F9000 pattern 0x55555555 write ok read ok
-block 249 addr 0x8000F9000 pattern 0xAAAAAAAA write ok read ok
-block 250 addr 0x8000FA000 pattern 0x55555555 write ok read ok
-block 250 addr 0x8000FA000 pattern 0xAAAAAAAA write ok read ok
-block 251 addr 0x8000FB000 pattern 0x55555555 write ok read ok
-block 251 addr 0x8000FB000 pattern 0xAAAAAAAA write ok read ok
-block 252 addr 0x8000FC000 pattern 0x55555555 write ok read ok
-block 252 addr 0x8000FC000 pattern 0xAAAAAAAA write ok read ok
-block 253 addr 0x8000FD000 pattern 0x55555555 write ok read ok
-block 253 addr 0x8000FD000 pattern 0xAAAAAAAA write ok read ok
-block 254 addr 0x8000FE000 pattern 0x55555555 write ok read ok
-block 254 addr 0x8000FE000 pattern 0xAAAAAAAA write ok read ok
-block 255 addr 0x8000FF000 pattern 0x55555555 write ok read ok
-block 255 addr 0x8000FF000 pattern 0xAAAAAAAA write ok read ok
-testmemory --1MB: Passed
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
 INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6s', 'baseband --off',
 replace('
 baseband --off', char(10), char(13, 10)) || char(13) || replace('
@@ -3823,6 +2200,66 @@ replace('
 buckcheck 5', char(10), char(13, 10)) || char(13) || replace('
 buckcheck starting, please wait
 buck5 target 1060 mV measured 1052.257 mV PASS
+[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
+'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6s', 'BUTTONCNT --DQE',
+replace('
+BUTTONCNT --DQE', char(10), char(13, 10)) || char(13) || replace('
+Button count test running, results on the device screen
+Send /q to quit
+[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
+'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6s', 'Help',
+replace('
+Help', char(10), char(13, 10)) || char(13) || replace('
+Available commands (type <command> --help for options):
+  accel          diagnostics command accel: run, read or control the accel block of the board
+  als            diagnostics command als: run, read or control the als block of the board
+  audio          diagnostics command audio: run, read or control the audio block of the board
+  baseband       diagnostics command baseband: run, read or control the baseband block of the board
+  battery        diagnostics command battery: run, read or control the battery block of the board
+  bl             diagnostics command bl: run, read or control the bl block of the board
+  bluetooth      diagnostics command bluetooth: run, read or control the bluetooth block of the board
+  buck           diagnostics command buck: run, read or control the buck block of the board
+  buckcheck      diagnostics command buckcheck: run, read or control the buckcheck block of the board
+  buttoncnt      diagnostics command buttoncnt: run, read or control the buttoncnt block of the board
+  camisp         diagnostics command camisp: run, read or control the camisp block of the board
+  charge         diagnostics command charge: run, read or control the charge block of the board
+  compass        diagnostics command compass: run, read or control the compass block of the board
+  consoleinit    diagnostics command consoleinit: run, read or control the consoleinit block of the board
+  device         diagnostics command device: run, read or control the device block of the board
+  diags          diagnostics command diags: run, read or control the diags block of the board
+  display        diagnostics command display: run, read or control the display block of the board
+  dock           diagnostics command dock: run, read or control the dock block of the board
+  exit           diagnostics command exit: run, read or control the exit block of the board
+  gps            diagnostics command gps: run, read or control the gps block of the board
+  gyro           diagnostics command gyro: run, read or control the gyro block of the board
+  help           diagnostics command help: run, read or control the help block of the board
+  hydra          diagnostics command hydra: run, read or control the hydra block of the board
+  i2c            diagnostics command i2c: run, read or control the i2c block of the board
+  mic            diagnostics command mic: run, read or control the mic block of the board
+  nand           diagnostics command nand: run, read or control the nand block of the board
+  nandsize       diagnostics command nandsize: run, read or control the nandsize block of the board
+  nanduid        diagnostics command nanduid: run, read or control the nanduid block of the board
+  pmuadc         diagnostics command pmuadc: run, read or control the pmuadc block of the board
+  pmureg         diagnostics command pmureg: run, read or control the pmureg block of the board
+  prox           diagnostics command prox: run, read or control the prox block of the board
+  reset          diagnostics command reset: run, read or control the reset block of the board
+  rtc            diagnostics command rtc: run, read or control the rtc block of the board
+  sensor         diagnostics command sensor: run, read or control the sensor block of the board
+  shutdown       diagnostics command shutdown: run, read or control the shutdown block of the board
+  smokey         diagnostics command smokey: run, read or control the smokey block of the board
+  soc            diagnostics command soc: run, read or control the soc block of the board
+  speaker        diagnostics command speaker: run, read or control the speaker block of the board
+  syscfg         diagnostics command syscfg: run, read or control the syscfg block of the board
+  temp           diagnostics command temp: run, read or control the temp block of the board
+  testmemory     diagnostics command testmemory: run, read or control the testmemory block of the board
+  touch          diagnostics command touch: run, read or control the touch block of the board
+  tristar        diagnostics command tristar: run, read or control the tristar block of the board
+  usb            diagnostics command usb: run, read or control the usb block of the board
+  version        diagnostics command version: run, read or control the version block of the board
+  vibrator       diagnostics command vibrator: run, read or control the vibrator block of the board
+  wifi           diagnostics command wifi: run, read or control the wifi block of the board
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
 INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6s', 'i2c -s 0',
@@ -3971,6 +2408,12 @@ tigris vdd : 3778.354 mV
 tigris die_temp : 31.25 C
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6s', 'Reset',
+replace('
+Reset', char(10), char(13, 10)) || char(13) || replace('
+Resetting device...
+[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
+'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
 INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6s', 'syscfg list',
 replace('
 syscfg list', char(10), char(13, 10)) || char(13) || replace('
@@ -4063,9 +2506,9 @@ memory test random       Passed
 testmemory: Passed
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6s', 'testmemory --1MB',
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6s', 'TESTMEMORY --1MB',
 replace('
-testmemory --1MB', char(10), char(13, 10)) || char(13) || replace('
+TESTMEMORY --1MB', char(10), char(13, 10)) || char(13) || replace('
 testmemory 1MB read/write, 256 blocks of 4 KiB
 block   0 addr 0x800000000 pattern 0x55555555 write ok read ok
 block   0 addr 0x800000000 pattern 0xAAAAAAAA write ok read ok
@@ -4679,591 +3122,6 @@ replace('
 Button count test ended
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6s Plus', 'BUTTONCNT --DQE',
-replace('
-BUTTONCNT --DQE', char(10), char(13, 10)) || char(13) || replace('
-Button count test running, results on the device screen
-Send /q to quit
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6s Plus', 'Help',
-replace('
-Help', char(10), char(13, 10)) || char(13) || replace('
-Available commands (type <command> --help for options):
-  accel          diagnostics command accel: run, read or control the accel block of the board
-  als            diagnostics command als: run, read or control the als block of the board
-  audio          diagnostics command audio: run, read or control the audio block of the board
-  baseband       diagnostics command baseband: run, read or control the baseband block of the board
-  battery        diagnostics command battery: run, read or control the battery block of the board
-  bl             diagnostics command bl: run, read or control the bl block of the board
-  bluetooth      diagnostics command bluetooth: run, read or control the bluetooth block of the board
-  buck           diagnostics command buck: run, read or control the buck block of the board
-  buckcheck      diagnostics command buckcheck: run, read or control the buckcheck block of the board
-  buttoncnt      diagnostics command buttoncnt: run, read or control the buttoncnt block of the board
-  camisp         diagnostics command camisp: run, read or control the camisp block of the board
-  charge         diagnostics command charge: run, read or control the charge block of the board
-  compass        diagnostics command compass: run, read or control the compass block of the board
-  consoleinit    diagnostics command consoleinit: run, read or control the consoleinit block of the board
-  device         diagnostics command device: run, read or control the device block of the board
-  diags          diagnostics command diags: run, read or control the diags block of the board
-  display        diagnostics command display: run, read or control the display block of the board
-  dock           diagnostics command dock: run, read or control the dock block of the board
-  exit           diagnostics command exit: run, read or control the exit block of the board
-  gps            diagnostics command gps: run, read or control the gps block of the board
-  gyro           diagnostics command gyro: run, read or control the gyro block of the board
-  help           diagnostics command help: run, read or control the help block of the board
-  hydra          diagnostics command hydra: run, read or control the hydra block of the board
-  i2c            diagnostics command i2c: run, read or control the i2c block of the board
-  mic            diagnostics command mic: run, read or control the mic block of the board
-  nand           diagnostics command nand: run, read or control the nand block of the board
-  nandsize       diagnostics command nandsize: run, read or control the nandsize block of the board
-  nanduid        diagnostics command nanduid: run, read or control the nanduid block of the board
-  pmuadc         diagnostics command pmuadc: run, read or control the pmuadc block of the board
-  pmureg         diagnostics command pmureg: run, read or control the pmureg block of the board
-  prox           diagnostics command prox: run, read or control the prox block of the board
-  reset          diagnostics command reset: run, read or control the reset block of the board
-  rtc            diagnostics command rtc: run, read or control the rtc block of the board
-  sensor         diagnostics command sensor: run, read or control the sensor block of the board
-  shutdown       diagnostics command shutdown: run, read or control the shutdown block of the board
-  smokey         diagnostics command smokey: run, read or control the smokey block of the board
-  soc            diagnostics command soc: run, read or control the soc block of the board
-  speaker        diagnostics command speaker: run, read or control the speaker block of the board
-  syscfg         diagnostics command syscfg: run, read or control the syscfg block of the board
-  temp           diagnostics command temp: run, read or control the temp block of the board
-  testmemory     diagnostics command testmemory: run, read or control the testmemory block of the board
-  touch          diagnostics command touch: run, read or control the touch block of the board
-  tristar        diagnostics command tristar: run, read or control the tristar block of the board
-  usb            diagnostics command usb: run, read or control the usb block of the board
-  version        diagnostics command version: run, read or control the version block of the board
-  vibrator       diagnostics command vibrator: run, read or control the vibrator block of the board
-  wifi           diagnostics command wifi: run, read or control the wifi block of the board
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6s Plus', 'Reset',
-replace('
-Reset', char(10), char(13, 10)) || char(13) || replace('
-Resetting device...
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6s Plus', 'TESTMEMORY --1MB',
-replace('
-TESTMEMORY --1MB', char(10), char(13, 10)) || char(13) || replace('
-testmemory 1MB read/write, 256 blocks of 4 KiB
-block   0 addr 0x800000000 pattern 0x55555555 write ok read ok
-block   0 addr 0x800000000 pattern 0xAAAAAAAA write ok read ok
-block   1 addr 0x800001000 pattern 0x55555555 write ok read ok
-block   1 addr 0x800001000 pattern 0xAAAAAAAA write ok read ok
-block   2 addr 0x800002000 pattern 0x55555555 write ok read ok
-block   2 addr 0x800002000 pattern 0xAAAAAAAA write ok read ok
-block   3 addr 0x800003000 pattern 0x55555555 write ok read ok
-block   3 addr 0x800003000 pattern 0xAAAAAAAA write ok read ok
-block   4 addr 0x800004000 pattern 0x55555555 write ok read ok
-block   4 addr 0x800004000 pattern 0xAAAAAAAA write ok read ok
-block   5 addr 0x800005000 pattern 0x55555555 write ok read ok
-block   5 addr 0x800005000 pattern 0xAAAAAAAA write ok read ok
-block   6 addr 0x800006000 pattern 0x55555555 write ok read ok
-block   6 addr 0x800006000 pattern 0xAAAAAAAA write ok read ok
-block   7 addr 0x800007000 pattern 0x55555555 write ok read ok
-block   7 addr 0x800007000 pattern 0xAAAAAAAA write ok read ok
-block   8 addr 0x800008000 pattern 0x55555555 write ok read ok
-block   8 addr 0x800008000 pattern 0xAAAAAAAA write ok read ok
-block   9 addr 0x800009000 pattern 0x55555555 write ok read ok
-block   9 addr 0x800009000 pattern 0xAAAAAAAA write ok read ok
-block  10 addr 0x80000A000 pattern 0x55555555 write ok read ok
-block  10 addr 0x80000A000 pattern 0xAAAAAAAA write ok read ok
-block  11 addr 0x80000B000 pattern 0x55555555 write ok read ok
-block  11 addr 0x80000B000 pattern 0xAAAAAAAA write ok read ok
-block  12 addr 0x80000C000 pattern 0x55555555 write ok read ok
-block  12 addr 0x80000C000 pattern 0xAAAAAAAA write ok read ok
-block  13 addr 0x80000D000 pattern 0x55555555 write ok read ok
-block  13 addr 0x80000D000 pattern 0xAAAAAAAA write ok read ok
-block  14 addr 0x80000E000 pattern 0x55555555 write ok read ok
-block  14 addr 0x80000E000 pattern 0xAAAAAAAA write ok read ok
-block  15 addr 0x80000F000 pattern 0x55555555 write ok read ok
-block  15 addr 0x80000F000 pattern 0xAAAAAAAA write ok read ok
-block  16 addr 0x800010000 pattern 0x55555555 write ok read ok
-block  16 addr 0x800010000 pattern 0xAAAAAAAA write ok read ok
-block  17 addr 0x800011000 pattern 0x55555555 write ok read ok
-block  17 addr 0x800011000 pattern 0xAAAAAAAA write ok read ok
-block  18 addr 0x800012000 pattern 0x55555555 write ok read ok
-block  18 addr 0x800012000 pattern 0xAAAAAAAA write ok read ok
-block  19 addr 0x800013000 pattern 0x55555555 write ok read ok
-block  19 addr 0x800013000 pattern 0xAAAAAAAA write ok read ok
-block  20 addr 0x800014000 pattern 0x55555555 write ok read ok
-block  20 addr 0x800014000 pattern 0xAAAAAAAA write ok read ok
-block  21 addr 0x800015000 pattern 0x55555555 write ok read ok
-block  21 addr 0x800015000 pattern 0xAAAAAAAA write ok read ok
-block  22 addr 0x800016000 pattern 0x55555555 write ok read ok
-block  22 addr 0x800016000 pattern 0xAAAAAAAA write ok read ok
-block  23 addr 0x800017000 pattern 0x55555555 write ok read ok
-block  23 addr 0x800017000 pattern 0xAAAAAAAA write ok read ok
-block  24 addr 0x800018000 pattern 0x55555555 write ok read ok
-block  24 addr 0x800018000 pattern 0xAAAAAAAA write ok read ok
-block  25 addr 0x800019000 pattern 0x55555555 write ok read ok
-block  25 addr 0x800019000 pattern 0xAAAAAAAA write ok read ok
-block  26 addr 0x80001A000 pattern 0x55555555 write ok read ok
-block  26 addr 0x80001A000 pattern 0xAAAAAAAA write ok read ok
-block  27 addr 0x80001B000 pattern 0x55555555 write ok read ok
-block  27 addr 0x80001B000 pattern 0xAAAAAAAA write ok read ok
-block  28 addr 0x80001C000 pattern 0x55555555 write ok read ok
-block  28 addr 0x80001C000 pattern 0xAAAAAAAA write ok read ok
-block  29 addr 0x80001D000 pattern 0x55555555 write ok read ok
-block  29 addr 0x80001D000 pattern 0xAAAAAAAA write ok read ok
-block  30 addr 0x80001E000 pattern 0x55555555 write ok read ok
-block  30 addr 0x80001E000 pattern 0xAAAAAAAA write ok read ok
-block  31 addr 0x80001F000 pattern 0x55555555 write ok read ok
-block  31 addr 0x80001F000 pattern 0xAAAAAAAA write ok read ok
-block  32 addr 0x800020000 pattern 0x55555555 write ok read ok
-block  32 addr 0x800020000 pattern 0xAAAAAAAA write ok read ok
-block  33 addr 0x800021000 pattern 0x55555555 write ok read ok
-block  33 addr 0x800021000 pattern 0xAAAAAAAA write ok read ok
-block  34 addr 0x800022000 pattern 0x55555555 write ok read ok
-block  34 addr 0x800022000 pattern 0xAAAAAAAA write ok read ok
-block  35 addr 0x800023000 pattern 0x55555555 write ok read ok
-block  35 addr 0x800023000 pattern 0xAAAAAAAA write ok read ok
-block  36 addr 0x800024000 pattern 0x55555555 write ok read ok
-block  36 addr 0x800024000 pattern 0xAAAAAAAA write ok read ok
-block  37 addr 0x800025000 pattern 0x55555555 write ok read ok
-block  37 addr 0x800025000 pattern 0xAAAAAAAA write ok read ok
-block  38 addr 0x800026000 pattern 0x55555555 write ok read ok
-block  38 addr 0x800026000 pattern 0xAAAAAAAA write ok read ok
-block  39 addr 0x800027000 pattern 0x55555555 write ok read ok
-block  39 addr 0x800027000 pattern 0xAAAAAAAA write ok read ok
-block  40 addr 0x800028000 pattern 0x55555555 write ok read ok
-block  40 addr 0x800028000 pattern 0xAAAAAAAA write ok read ok
-block  41 addr 0x800029000 pattern 0x55555555 write ok read ok
-block  41 addr 0x800029000 pattern 0xAAAAAAAA write ok read ok
-block  42 addr 0x80002A000 pattern 0x55555555 write ok read ok
-block  42 addr 0x80002A000 pattern 0xAAAAAAAA write ok read ok
-block  43 addr 0x80002B000 pattern 0x55555555 write ok read ok
-block  43 addr 0x80002B000 pattern 0xAAAAAAAA write ok read ok
-block  44 addr 0x80002C000 pattern 0x55555555 write ok read ok
-block  44 addr 0x80002C000 pattern 0xAAAAAAAA write ok read ok
-block  45 addr 0x80002D000 pattern 0x55555555 write ok read ok
-block  45 addr 0x80002D000 pattern 0xAAAAAAAA write ok read ok
-block  46 addr 0x80002E000 pattern 0x55555555 write ok read ok
-block  46 addr 0x80002E000 pattern 0xAAAAAAAA write ok read ok
-block  47 addr 0x80002F000 pattern 0x55555555 write ok read ok
-block  47 addr 0x80002F000 pattern 0xAAAAAAAA write ok read ok
-block  48 addr 0x800030000 pattern 0x55555555 write ok read ok
-block  48 addr 0x800030000 pattern 0xAAAAAAAA write ok read ok
-block  49 addr 0x800031000 pattern 0x55555555 write ok read ok
-block  49 addr 0x800031000 pattern 0xAAAAAAAA write ok read ok
-block  50 addr 0x800032000 pattern 0x55555555 write ok read ok
-block  50 addr 0x800032000 pattern 0xAAAAAAAA write ok read ok
-block  51 addr 0x800033000 pattern 0x55555555 write ok read ok
-block  51 addr 0x800033000 pattern 0xAAAAAAAA write ok read ok
-block  52 addr 0x800034000 pattern 0x55555555 write ok read ok
-block  52 addr 0x800034000 pattern 0xAAAAAAAA write ok read ok
-block  53 addr 0x800035000 pattern 0x55555555 write ok read ok
-block  53 addr 0x800035000 pattern 0xAAAAAAAA write ok read ok
-block  54 addr 0x800036000 pattern 0x55555555 write ok read ok
-block  54 addr 0x800036000 pattern 0xAAAAAAAA write ok read ok
-block  55 addr 0x800037000 pattern 0x55555555 write ok read ok
-block  55 addr 0x800037000 pattern 0xAAAAAAAA write ok read ok
-block  56 addr 0x800038000 pattern 0x55555555 write ok read ok
-block  56 addr 0x800038000 pattern 0xAAAAAAAA write ok read ok
-block  57 addr 0x800039000 pattern 0x55555555 write ok read ok
-block  57 addr 0x800039000 pattern 0xAAAAAAAA write ok read ok
-block  58 addr 0x80003A000 pattern 0x55555555 write ok read ok
-block  58 addr 0x80003A000 pattern 0xAAAAAAAA write ok read ok
-block  59 addr 0x80003B000 pattern 0x55555555 write ok read ok
-block  59 addr 0x80003B000 pattern 0xAAAAAAAA write ok read ok
-block  60 addr 0x80003C000 pattern 0x55555555 write ok read ok
-block  60 addr 0x80003C000 pattern 0xAAAAAAAA write ok read ok
-block  61 addr 0x80003D000 pattern 0x55555555 write ok read ok
-block  61 addr 0x80003D000 pattern 0xAAAAAAAA write ok read ok
-block  62 addr 0x80003E000 pattern 0x55555555 write ok read ok
-block  62 addr 0x80003E000 pattern 0xAAAAAAAA write ok read ok
-block  63 addr 0x80003F000 pattern 0x55555555 write ok read ok
-block  63 addr 0x80003F000 pattern 0xAAAAAAAA write ok read ok
-block  64 addr 0x800040000 pattern 0x55555555 write ok read ok
-block  64 addr 0x800040000 pattern 0xAAAAAAAA write ok read ok
-block  65 addr 0x800041000 pattern 0x55555555 write ok read ok
-block  65 addr 0x800041000 pattern 0xAAAAAAAA write ok read ok
-block  66 addr 0x800042000 pattern 0x55555555 write ok read ok
-block  66 addr 0x800042000 pattern 0xAAAAAAAA write ok read ok
-block  67 addr 0x800043000 pattern 0x55555555 write ok read ok
-block  67 addr 0x800043000 pattern 0xAAAAAAAA write ok read ok
-block  68 addr 0x800044000 pattern 0x55555555 write ok read ok
-block  68 addr 0x800044000 pattern 0xAAAAAAAA write ok read ok
-block  69 addr 0x800045000 pattern 0x55555555 write ok read ok
-block  69 addr 0x800045000 pattern 0xAAAAAAAA write ok read ok
-block  70 addr 0x800046000 pattern 0x55555555 write ok read ok
-block  70 addr 0x800046000 pattern 0xAAAAAAAA write ok read ok
-block  71 addr 0x800047000 pattern 0x55555555 write ok read ok
-block  71 addr 0x800047000 pattern 0xAAAAAAAA write ok read ok
-block  72 addr 0x800048000 pattern 0x55555555 write ok read ok
-block  72 addr 0x800048000 pattern 0xAAAAAAAA write ok read ok
-block  73 addr 0x800049000 pattern 0x55555555 write ok read ok
-block  73 addr 0x800049000 pattern 0xAAAAAAAA write ok read ok
-block  74 addr 0x80004A000 pattern 0x55555555 write ok read ok
-block  74 addr 0x80004A000 pattern 0xAAAAAAAA write ok read ok
-block  75 addr 0x80004B000 pattern 0x55555555 write ok read ok
-block  75 addr 0x80004B000 pattern 0xAAAAAAAA write ok read ok
-block  76 addr 0x80004C000 pattern 0x55555555 write ok read ok
-block  76 addr 0x80004C000 pattern 0xAAAAAAAA write ok read ok
-block  77 addr 0x80004D000 pattern 0x55555555 write ok read ok
-block  77 addr 0x80004D000 pattern 0xAAAAAAAA write ok read ok
-block  78 addr 0x80004E000 pattern 0x55555555 write ok read ok
-block  78 addr 0x80004E000 pattern 0xAAAAAAAA write ok read ok
-block  79 addr 0x80004F000 pattern 0x55555555 write ok read ok
-block  79 addr 0x80004F000 pattern 0xAAAAAAAA write ok read ok
-block  80 addr 0x800050000 pattern 0x55555555 write ok read ok
-block  80 addr 0x800050000 pattern 0xAAAAAAAA write ok read ok
-block  81 addr 0x800051000 pattern 0x55555555 write ok read ok
-block  81 addr 0x800051000 pattern 0xAAAAAAAA write ok read ok
-block  82 addr 0x800052000 pattern 0x55555555 write ok read ok
-block  82 addr 0x800052000 pattern 0xAAAAAAAA write ok read ok
-block  83 addr 0x800053000 pattern 0x55555555 write ok read ok
-block  83 addr 0x800053000 pattern 0xAAAAAAAA write ok read ok
-block  84 addr 0x800054000 pattern 0x55555555 write ok read ok
-block  84 addr 0x800054000 pattern 0xAAAAAAAA write ok read ok
-block  85 addr 0x800055000 pattern 0x55555555 write ok read ok
-block  85 addr 0x800055000 pattern 0xAAAAAAAA write ok read ok
-block  86 addr 0x800056000 pattern 0x55555555 write ok read ok
-block  86 addr 0x800056000 pattern 0xAAAAAAAA write ok read ok
-block  87 addr 0x800057000 pattern 0x55555555 write ok read ok
-block  87 addr 0x800057000 pattern 0xAAAAAAAA write ok read ok
-block  88 addr 0x800058000 pattern 0x55555555 write ok read ok
-block  88 addr 0x800058000 pattern 0xAAAAAAAA write ok read ok
-block  89 addr 0x800059000 pattern 0x55555555 write ok read ok
-block  89 addr 0x800059000 pattern 0xAAAAAAAA write ok read ok
-block  90 addr 0x80005A000 pattern 0x55555555 write ok read ok
-block  90 addr 0x80005A000 pattern 0xAAAAAAAA write ok read ok
-block  91 addr 0x80005B000 pattern 0x55555555 write ok read ok
-block  91 addr 0x80005B000 pattern 0xAAAAAAAA write ok read ok
-block  92 addr 0x80005C000 pattern 0x55555555 write ok read ok
-block  92 addr 0x80005C000 pattern 0xAAAAAAAA write ok read ok
-block  93 addr 0x80005D000 pattern 0x55555555 write ok read ok
-block  93 addr 0x80005D000 pattern 0xAAAAAAAA write ok read ok
-block  94 addr 0x80005E000 pattern 0x55555555 write ok read ok
-block  94 addr 0x80005E000 pattern 0xAAAAAAAA write ok read ok
-block  95 addr 0x80005F000 pattern 0x55555555 write ok read ok
-block  95 addr 0x80005F000 pattern 0xAAAAAAAA write ok read ok
-block  96 addr 0x800060000 pattern 0x55555555 write ok read ok
-block  96 addr 0x800060000 pattern 0xAAAAAAAA write ok read ok
-block  97 addr 0x800061000 pattern 0x55555555 write ok read ok
-block  97 addr 0x800061000 pattern 0xAAAAAAAA write ok read ok
-block  98 addr 0x800062000 pattern 0x55555555 write ok read ok
-block  98 addr 0x800062000 pattern 0xAAAAAAAA write ok read ok
-block  99 addr 0x800063000 pattern 0x55555555 write ok read ok
-block  99 addr 0x800063000 pattern 0xAAAAAAAA write ok read ok
-block 100 addr 0x800064000 pattern 0x55555555 write ok read ok
-block 100 addr 0x800064000 pattern 0xAAAAAAAA write ok read ok
-block 101 addr 0x800065000 pattern 0x55555555 write ok read ok
-block 101 addr 0x800065000 pattern 0xAAAAAAAA write ok read ok
-block 102 addr 0x800066000 pattern 0x55555555 write ok read ok
-block 102 addr 0x800066000 pattern 0xAAAAAAAA write ok read ok
-block 103 addr 0x800067000 pattern 0x55555555 write ok read ok
-block 103 addr 0x800067000 pattern 0xAAAAAAAA write ok read ok
-block 104 addr 0x800068000 pattern 0x55555555 write ok read ok
-block 104 addr 0x800068000 pattern 0xAAAAAAAA write ok read ok
-block 105 addr 0x800069000 pattern 0x55555555 write ok read ok
-block 105 addr 0x800069000 pattern 0xAAAAAAAA write ok read ok
-block 106 addr 0x80006A000 pattern 0x55555555 write ok read ok
-block 106 addr 0x80006A000 pattern 0xAAAAAAAA write ok read ok
-block 107 addr 0x80006B000 pattern 0x55555555 write ok read ok
-block 107 addr 0x80006B000 pattern 0xAAAAAAAA write ok read ok
-block 108 addr 0x80006C000 pattern 0x55555555 write ok read ok
-block 108 addr 0x80006C000 pattern 0xAAAAAAAA write ok read ok
-block 109 addr 0x80006D000 pattern 0x55555555 write ok read ok
-block 109 addr 0x80006D000 pattern 0xAAAAAAAA write ok read ok
-block 110 addr 0x80006E000 pattern 0x55555555 write ok read ok
-block 110 addr 0x80006E000 pattern 0xAAAAAAAA write ok read ok
-block 111 addr 0x80006F000 pattern 0x55555555 write ok read ok
-block 111 addr 0x80006F000 pattern 0xAAAAAAAA write ok read ok
-block 112 addr 0x800070000 pattern 0x55555555 write ok read ok
-block 112 addr 0x800070000 pattern 0xAAAAAAAA write ok read ok
-block 113 addr 0x800071000 pattern 0x55555555 write ok read ok
-block 113 addr 0x800071000 pattern 0xAAAAAAAA write ok read ok
-block 114 addr 0x800072000 pattern 0x55555555 write ok read ok
-block 114 addr 0x800072000 pattern 0xAAAAAAAA write ok read ok
-block 115 addr 0x800073000 pattern 0x55555555 write ok read ok
-block 115 addr 0x800073000 pattern 0xAAAAAAAA write ok read ok
-block 116 addr 0x800074000 pattern 0x55555555 write ok read ok
-block 116 addr 0x800074000 pattern 0xAAAAAAAA write ok read ok
-block 117 addr 0x800075000 pattern 0x55555555 write ok read ok
-block 117 addr 0x800075000 pattern 0xAAAAAAAA write ok read ok
-block 118 addr 0x800076000 pattern 0x55555555 write ok read ok
-block 118 addr 0x800076000 pattern 0xAAAAAAAA write ok read ok
-block 119 addr 0x800077000 pattern 0x55555555 write ok read ok
-block 119 addr 0x800077000 pattern 0xAAAAAAAA write ok read ok
-block 120 addr 0x800078000 pattern 0x55555555 write ok read ok
-block 120 addr 0x800078000 pattern 0xAAAAAAAA write ok read ok
-block 121 addr 0x800079000 pattern 0x55555555 write ok read ok
-block 121 addr 0x800079000 pattern 0xAAAAAAAA write ok read ok
-block 122 addr 0x80007A000 pattern 0x55555555 write ok read ok
-block 122 addr 0x80007A000 pattern 0xAAAAAAAA write ok read ok
-block 123 addr 0x80007B000 pattern 0x55555555 write ok read ok
-block 123 addr 0x80007B000 pattern 0xAAAAAAAA write ok read ok
-block 124 addr 0x80007C000 pattern 0x55555555 write ok read ok
-block 124 addr 0x80007C000 pattern 0xAAAAAAAA write ok read ok
-block 125 addr 0x80007D000 pattern 0x55555555 write ok read ok
-block 125 addr 0x80007D000 pattern 0xAAAAAAAA write ok read ok
-block 126 addr 0x80007E000 pattern 0x55555555 write ok read ok
-block 126 addr 0x80007E000 pattern 0xAAAAAAAA write ok read ok
-block 127 addr 0x80007F000 pattern 0x55555555 write ok read ok
-block 127 addr 0x80007F000 pattern 0xAAAAAAAA write ok read ok
-block 128 addr 0x800080000 pattern 0x55555555 write ok read ok
-block 128 addr 0x800080000 pattern 0xAAAAAAAA write ok read ok
-block 129 addr 0x800081000 pattern 0x55555555 write ok read ok
-block 129 addr 0x800081000 pattern 0xAAAAAAAA write ok read ok
-block 130 addr 0x800082000 pattern 0x55555555 write ok read ok
-block 130 addr 0x800082000 pattern 0xAAAAAAAA write ok read ok
-block 131 addr 0x800083000 pattern 0x55555555 write ok read ok
-block 131 addr 0x800083000 pattern 0xAAAAAAAA write ok read ok
-block 132 addr 0x800084000 pattern 0x55555555 write ok read ok
-block 132 addr 0x800084000 pattern 0xAAAAAAAA write ok read ok
-block 133 addr 0x800085000 pattern 0x55555555 write ok read ok
-block 133 addr 0x800085000 pattern 0xAAAAAAAA write ok read ok
-block 134 addr 0x800086000 pattern 0x55555555 write ok read ok
-block 134 addr 0x800086000 pattern 0xAAAAAAAA write ok read ok
-block 135 addr 0x800087000 pattern 0x55555555 write ok read ok
-block 135 addr 0x800087000 pattern 0xAAAAAAAA write ok read ok
-block 136 addr 0x800088000 pattern 0x55555555 write ok read ok
-block 136 addr 0x800088000 pattern 0xAAAAAAAA write ok read ok
-block 137 addr 0x800089000 pattern 0x55555555 write ok read ok
-block 137 addr 0x800089000 pattern 0xAAAAAAAA write ok read ok
-block 138 addr 0x80008A000 pattern 0x55555555 write ok read ok
-block 138 addr 0x80008A000 pattern 0xAAAAAAAA write ok read ok
-block 139 addr 0x80008B000 pattern 0x55555555 write ok read ok
-block 139 addr 0x80008B000 pattern 0xAAAAAAAA write ok read ok
-block 140 addr 0x80008C000 pattern 0x55555555 write ok read ok
-block 140 addr 0x80008C000 pattern 0xAAAAAAAA write ok read ok
-block 141 addr 0x80008D000 pattern 0x55555555 write ok read ok
-block 141 addr 0x80008D000 pattern 0xAAAAAAAA write ok read ok
-block 142 addr 0x80008E000 pattern 0x55555555 write ok read ok
-block 142 addr 0x80008E000 pattern 0xAAAAAAAA write ok read ok
-block 143 addr 0x80008F000 pattern 0x55555555 write ok read ok
-block 143 addr 0x80008F000 pattern 0xAAAAAAAA write ok read ok
-block 144 addr 0x800090000 pattern 0x55555555 write ok read ok
-block 144 addr 0x800090000 pattern 0xAAAAAAAA write ok read ok
-block 145 addr 0x800091000 pattern 0x55555555 write ok read ok
-block 145 addr 0x800091000 pattern 0xAAAAAAAA write ok read ok
-block 146 addr 0x800092000 pattern 0x55555555 write ok read ok
-block 146 addr 0x800092000 pattern 0xAAAAAAAA write ok read ok
-block 147 addr 0x800093000 pattern 0x55555555 write ok read ok
-block 147 addr 0x800093000 pattern 0xAAAAAAAA write ok read ok
-block 148 addr 0x800094000 pattern 0x55555555 write ok read ok
-block 148 addr 0x800094000 pattern 0xAAAAAAAA write ok read ok
-block 149 addr 0x800095000 pattern 0x55555555 write ok read ok
-block 149 addr 0x800095000 pattern 0xAAAAAAAA write ok read ok
-block 150 addr 0x800096000 pattern 0x55555555 write ok read ok
-block 150 addr 0x800096000 pattern 0xAAAAAAAA write ok read ok
-block 151 addr 0x800097000 pattern 0x55555555 write ok read ok
-block 151 addr 0x800097000 pattern 0xAAAAAAAA write ok read ok
-block 152 addr 0x800098000 pattern 0x55555555 write ok read ok
-block 152 addr 0x800098000 pattern 0xAAAAAAAA write ok read ok
-block 153 addr 0x800099000 pattern 0x55555555 write ok read ok
-block 153 addr 0x800099000 pattern 0xAAAAAAAA write ok read ok
-block 154 addr 0x80009A000 pattern 0x55555555 write ok read ok
-block 154 addr 0x80009A000 pattern 0xAAAAAAAA write ok read ok
-block 155 addr 0x80009B000 pattern 0x55555555 write ok read ok
-block 155 addr 0x80009B000 pattern 0xAAAAAAAA write ok read ok
-block 156 addr 0x80009C000 pattern 0x55555555 write ok read ok
-block 156 addr 0x80009C000 pattern 0xAAAAAAAA write ok read ok
-block 157 addr 0x80009D000 pattern 0x55555555 write ok read ok
-block 157 addr 0x80009D000 pattern 0xAAAAAAAA write ok read ok
-block 158 addr 0x80009E000 pattern 0x55555555 write ok read ok
-block 158 addr 0x80009E000 pattern 0xAAAAAAAA write ok read ok
-block 159 addr 0x80009F000 pattern 0x55555555 write ok read ok
-block 159 addr 0x80009F000 pattern 0xAAAAAAAA write ok read ok
-block 160 addr 0x8000A0000 pattern 0x55555555 write ok read ok
-block 160 addr 0x8000A0000 pattern 0xAAAAAAAA write ok read ok
-block 161 addr 0x8000A1000 pattern 0x55555555 write ok read ok
-block 161 addr 0x8000A1000 pattern 0xAAAAAAAA write ok read ok
-block 162 addr 0x8000A2000 pattern 0x55555555 write ok read ok
-block 162 addr 0x8000A2000 pattern 0xAAAAAAAA write ok read ok
-block 163 addr 0x8000A3000 pattern 0x55555555 write ok read ok
-block 163 addr 0x8000A3000 pattern 0xAAAAAAAA write ok read ok
-block 164 addr 0x8000A4000 pattern 0x55555555 write ok read ok
-block 164 addr 0x8000A4000 pattern 0xAAAAAAAA write ok read ok
-block 165 addr 0x8000A5000 pattern 0x55555555 write ok read ok
-block 165 addr 0x8000A5000 pattern 0xAAAAAAAA write ok read ok
-block 166 addr 0x8000A6000 pattern 0x55555555 write ok read ok
-block 166 addr 0x8000A6000 pattern 0xAAAAAAAA write ok read ok
-block 167 addr 0x8000A7000 pattern 0x55555555 write ok read ok
-block 167 addr 0x8000A7000 pattern 0xAAAAAAAA write ok read ok
-block 168 addr 0x8000A8000 pattern 0x55555555 write ok read ok
-block 168 addr 0x8000A8000 pattern 0xAAAAAAAA write ok read ok
-block 169 addr 0x8000A9000 pattern 0x55555555 write ok read ok
-block 169 addr 0x8000A9000 pattern 0xAAAAAAAA write ok read ok
-block 170 addr 0x8000AA000 pattern 0x55555555 write ok read ok
-block 170 addr 0x8000AA000 pattern 0xAAAAAAAA write ok read ok
-block 171 addr 0x8000AB000 pattern 0x55555555 write ok read ok
-block 171 addr 0x8000AB000 pattern 0xAAAAAAAA write ok read ok
-block 172 addr 0x8000AC000 pattern 0x55555555 write ok read ok
-block 172 addr 0x8000AC000 pattern 0xAAAAAAAA write ok read ok
-block 173 addr 0x8000AD000 pattern 0x55555555 write ok read ok
-block 173 addr 0x8000AD000 pattern 0xAAAAAAAA write ok read ok
-block 174 addr 0x8000AE000 pattern 0x55555555 write ok read ok
-block 174 addr 0x8000AE000 pattern 0xAAAAAAAA write ok read ok
-block 175 addr 0x8000AF000 pattern 0x55555555 write ok read ok
-block 175 addr 0x8000AF000 pattern 0xAAAAAAAA write ok read ok
-block 176 addr 0x8000B0000 pattern 0x55555555 write ok read ok
-block 176 addr 0x8000B0000 pattern 0xAAAAAAAA write ok read ok
-block 177 addr 0x8000B1000 pattern 0x55555555 write ok read ok
-block 177 addr 0x8000B1000 pattern 0xAAAAAAAA write ok read ok
-block 178 addr 0x8000B2000 pattern 0x55555555 write ok read ok
-block 178 addr 0x8000B2000 pattern 0xAAAAAAAA write ok read ok
-block 179 addr 0x8000B3000 pattern 0x55555555 write ok read ok
-block 179 addr 0x8000B3000 pattern 0xAAAAAAAA write ok read ok
-block 180 addr 0x8000B4000 pattern 0x55555555 write ok read ok
-block 180 addr 0x8000B4000 pattern 0xAAAAAAAA write ok read ok
-block 181 addr 0x8000B5000 pattern 0x55555555 write ok read ok
-block 181 addr 0x8000B5000 pattern 0xAAAAAAAA write ok read ok
-block 182 addr 0x8000B6000 pattern 0x55555555 write ok read ok
-block 182 addr 0x8000B6000 pattern 0xAAAAAAAA write ok read ok
-block 183 addr 0x8000B7000 pattern 0x55555555 write ok read ok
-block 183 addr 0x8000B7000 pattern 0xAAAAAAAA write ok read ok
-block 184 addr 0x8000B8000 pattern 0x55555555 write ok read ok
-block 184 addr 0x8000B8000 pattern 0xAAAAAAAA write ok read ok
-block 185 addr 0x8000B9000 pattern 0x55555555 write ok read ok
-block 185 addr 0x8000B9000 pattern 0xAAAAAAAA write ok read ok
-block 186 addr 0x8000BA000 pattern 0x55555555 write ok read ok
-block 186 addr 0x8000BA000 pattern 0xAAAAAAAA write ok read ok
-block 187 addr 0x8000BB000 pattern 0x55555555 write ok read ok
-block 187 addr 0x8000BB000 pattern 0xAAAAAAAA write ok read ok
-block 188 addr 0x8000BC000 pattern 0x55555555 write ok read ok
-block 188 addr 0x8000BC000 pattern 0xAAAAAAAA write ok read ok
-block 189 addr 0x8000BD000 pattern 0x55555555 write ok read ok
-block 189 addr 0x8000BD000 pattern 0xAAAAAAAA write ok read ok
-block 190 addr 0x8000BE000 pattern 0x55555555 write ok read ok
-block 190 addr 0x8000BE000 pattern 0xAAAAAAAA write ok read ok
-block 191 addr 0x8000BF000 pattern 0x55555555 write ok read ok
-block 191 addr 0x8000BF000 pattern 0xAAAAAAAA write ok read ok
-block 192 addr 0x8000C0000 pattern 0x55555555 write ok read ok
-block 192 addr 0x8000C0000 pattern 0xAAAAAAAA write ok read ok
-block 193 addr 0x8000C1000 pattern 0x55555555 write ok read ok
-block 193 addr 0x8000C1000 pattern 0xAAAAAAAA write ok read ok
-block 194 addr 0x8000C2000 pattern 0x55555555 write ok read ok
-block 194 addr 0x8000C2000 pattern 0xAAAAAAAA write ok read ok
-block 195 addr 0x8000C3000 pattern 0x55555555 write ok read ok
-block 195 addr 0x8000C3000 pattern 0xAAAAAAAA write ok read ok
-block 196 addr 0x8000C4000 pattern 0x55555555 write ok read ok
-block 196 addr 0x8000C4000 pattern 0xAAAAAAAA write ok read ok
-block 197 addr 0x8000C5000 pattern 0x55555555 write ok read ok
-block 197 addr 0x8000C5000 pattern 0xAAAAAAAA write ok read ok
-block 198 addr 0x8000C6000 pattern 0x55555555 write ok read ok
-block 198 addr 0x8000C6000 pattern 0xAAAAAAAA write ok read ok
-block 199 addr 0x8000C7000 pattern 0x55555555 write ok read ok
-block 199 addr 0x8000C7000 pattern 0xAAAAAAAA write ok read ok
-block 200 addr 0x8000C8000 pattern 0x55555555 write ok read ok
-block 200 addr 0x8000C8000 pattern 0xAAAAAAAA write ok read ok
-block 201 addr 0x8000C9000 pattern 0x55555555 write ok read ok
-block 201 addr 0x8000C9000 pattern 0xAAAAAAAA write ok read ok
-block 202 addr 0x8000CA000 pattern 0x55555555 write ok read ok
-block 202 addr 0x8000CA000 pattern 0xAAAAAAAA write ok read ok
-block 203 addr 0x8000CB000 pattern 0x55555555 write ok read ok
-block 203 addr 0x8000CB000 pattern 0xAAAAAAAA write ok read ok
-block 204 addr 0x8000CC000 pattern 0x55555555 write ok read ok
-block 204 addr 0x8000CC000 pattern 0xAAAAAAAA write ok read ok
-block 205 addr 0x8000CD000 pattern 0x55555555 write ok read ok
-block 205 addr 0x8000CD000 pattern 0xAAAAAAAA write ok read ok
-block 206 addr 0x8000CE000 pattern 0x55555555 write ok read ok
-block 206 addr 0x8000CE000 pattern 0xAAAAAAAA write ok read ok
-block 207 addr 0x8000CF000 pattern 0x55555555 write ok read ok
-block 207 addr 0x8000CF000 pattern 0xAAAAAAAA write ok read ok
-block 208 addr 0x8000D0000 pattern 0x55555555 write ok read ok
-block 208 addr 0x8000D0000 pattern 0xAAAAAAAA write ok read ok
-block 209 addr 0x8000D1000 pattern 0x55555555 write ok read ok
-block 209 addr 0x8000D1000 pattern 0xAAAAAAAA write ok read ok
-block 210 addr 0x8000D2000 pattern 0x55555555 write ok read ok
-block 210 addr 0x8000D2000 pattern 0xAAAAAAAA write ok read ok
-block 211 addr 0x8000D3000 pattern 0x55555555 write ok read ok
-block 211 addr 0x8000D3000 pattern 0xAAAAAAAA write ok read ok
-block 212 addr 0x8000D4000 pattern 0x55555555 write ok read ok
-block 212 addr 0x8000D4000 pattern 0xAAAAAAAA write ok read ok
-block 213 addr 0x8000D5000 pattern 0x55555555 write ok read ok
-block 213 addr 0x8000D5000 pattern 0xAAAAAAAA write ok read ok
-block 214 addr 0x8000D6000 pattern 0x55555555 write ok read ok
-block 214 addr 0x8000D6000 pattern 0xAAAAAAAA write ok read ok
-block 215 addr 0x8000D7000 pattern 0x55555555 write ok read ok
-block 215 addr 0x8000D7000 pattern 0xAAAAAAAA write ok read ok
-block 216 addr 0x8000D8000 pattern 0x55555555 write ok read ok
-block 216 addr 0x8000D8000 pattern 0xAAAAAAAA write ok read ok
-block 217 addr 0x8000D9000 pattern 0x55555555 write ok read ok
-block 217 addr 0x8000D9000 pattern 0xAAAAAAAA write ok read ok
-block 218 addr 0x8000DA000 pattern 0x55555555 write ok read ok
-block 218 addr 0x8000DA000 pattern 0xAAAAAAAA write ok read ok
-block 219 addr 0x8000DB000 pattern 0x55555555 write ok read ok
-block 219 addr 0x8000DB000 pattern 0xAAAAAAAA write ok read ok
-block 220 addr 0x8000DC000 pattern 0x55555555 write ok read ok
-block 220 addr 0x8000DC000 pattern 0xAAAAAAAA write ok read ok
-block 221 addr 0x8000DD000 pattern 0x55555555 write ok read ok
-block 221 addr 0x8000DD000 pattern 0xAAAAAAAA write ok read ok
-block 222 addr 0x8000DE000 pattern 0x55555555 write ok read ok
-block 222 addr 0x8000DE000 pattern 0xAAAAAAAA write ok read ok
-block 223 addr 0x8000DF000 pattern 0x55555555 write ok read ok
-block 223 addr 0x8000DF000 pattern 0xAAAAAAAA write ok read ok
-block 224 addr 0x8000E0000 pattern 0x55555555 write ok read ok
-block 224 addr 0x8000E0000 pattern 0xAAAAAAAA write ok read ok
-block 225 addr 0x8000E1000 pattern 0x55555555 write ok read ok
-block 225 addr 0x8000E1000 pattern 0xAAAAAAAA write ok read ok
-block 226 addr 0x8000E2000 pattern 0x55555555 write ok read ok
-block 226 addr 0x8000E2000 pattern 0xAAAAAAAA write ok read ok
-block 227 addr 0x8000E3000 pattern 0x55555555 write ok read ok
-block 227 addr 0x8000E3000 pattern 0xAAAAAAAA write ok read ok
-block 228 addr 0x8000E4000 pattern 0x55555555 write ok read ok
-block 228 addr 0x8000E4000 pattern 0xAAAAAAAA write ok read ok
-block 229 addr 0x8000E5000 pattern 0x55555555 write ok read ok
-block 229 addr 0x8000E5000 pattern 0xAAAAAAAA write ok read ok
-block 230 addr 0x8000E6000 pattern 0x55555555 write ok read ok
-block 230 addr 0x8000E6000 pattern 0xAAAAAAAA write ok read ok
-block 231 addr 0x8000E7000 pattern 0x55555555 write ok read ok
-block 231 addr 0x8000E7000 pattern 0xAAAAAAAA write ok read ok
-block 232 addr 0x8000E8000 pattern 0x55555555 write ok read ok
-block 232 addr 0x8000E8000 pattern 0xAAAAAAAA write ok read ok
-block 233 addr 0x8000E9000 pattern 0x55555555 write ok read ok
-block 233 addr 0x8000E9000 pattern 0xAAAAAAAA write ok read ok
-block 234 addr 0x8000EA000 pattern 0x55555555 write ok read ok
-block 234 addr 0x8000EA000 pattern 0xAAAAAAAA write ok read ok
-block 235 addr 0x8000EB000 pattern 0x55555555 write ok read ok
-block 235 addr 0x8000EB000 pattern 0xAAAAAAAA write ok read ok
-block 236 addr 0x8000EC000 pattern 0x55555555 write ok read ok
-block 236 addr 0x8000EC000 pattern 0xAAAAAAAA write ok read ok
-block 237 addr 0x8000ED000 pattern 0x55555555 write ok read ok
-block 237 addr 0x8000ED000 pattern 0xAAAAAAAA write ok read ok
-block 238 addr 0x8000EE000 pattern 0x55555555 write ok read ok
-block 238 addr 0x8000EE000 pattern 0xAAAAAAAA write ok read ok
-block 239 addr 0x8000EF000 pattern 0x55555555 write ok read ok
-block 239 addr 0x8000EF000 pattern 0xAAAAAAAA write ok read ok
-block 240 addr 0x8000F0000 pattern 0x55555555 write ok read ok
-block 240 addr 0x8000F0000 pattern 0xAAAAAAAA write ok read ok
-block 241 addr 0x8000F1000 pattern 0x55555555 write ok read ok
-block 241 addr 0x8000F1000 pattern 0xAAAAAAAA write ok read ok
-block 242 addr 0x8000F2000 pattern 0x55555555 write ok read ok
-block 242 addr 0x8000F2000 pattern 0xAAAAAAAA write ok read ok
-block 243 addr 0x8000F3000 pattern 0x55555555 write ok read ok
-block 243 addr 0x8000F3000 pattern 0xAAAAAAAA write ok read ok
-block 244 addr 0x8000F4000 pattern 0x55555555 write ok read ok
-block 244 addr 0x8000F4000 pattern 0xAAAAAAAA write ok read ok
-block 245 addr 0x8000F5000 pattern 0x55555555 write ok read ok
-block 245 addr 0x8000F5000 pattern 0xAAAAAAAA write ok read ok
-block 246 addr 0x8000F6000 pattern 0x55555555 write ok read ok
-block 246 addr 0x8000F6000 pattern 0xAAAAAAAA write ok read ok
-block 247 addr 0x8000F7000 pattern 0x55555555 write ok read ok
-block 247 addr 0x8000F7000 pattern 0xAAAAAAAA write ok read ok
-block 248 addr 0x8000F8000 pattern 0x55555555 write ok read ok
-block 248 addr 0x8000F8000 pattern 0xAAAAAAAA write ok read ok
-block 249 addr 0x8000F9000 pattern 0x55555555 write ok read ok
-block 249 addr 0x8000F9000 pattern 0xAAAAAAAA write ok read ok
-block 250 addr 0x8000FA000 pattern 0x55555555 write ok read ok
-block 250 addr 0x8000FA000 pattern 0xAAAAAAAA write ok read ok
-block 251 addr 0x8000FB000 pattern 0x55555555 write ok read ok
-block 251 addr 0x8000FB000 pattern 0xAAAAAAAA write ok read ok
-block 252 addr 0x8000FC000 pattern 0x55555555 write ok read ok
-block 252 addr 0x8000FC000 pattern 0xAAAAAAAA write ok read ok
-block 253 addr 0x8000FD000 pattern 0x55555555 write ok read ok
-block 253 addr 0x8000FD000 pattern 0xAAAAAAAA write ok read ok
-block 254 addr 0x8000FE000 pattern 0x55555555 write ok read ok
-block 254 addr 0x8000FE000 pattern 0xAAAAAAAA write ok read ok
-block 255 addr 0x8000FF000 pattern 0x55555555 write ok read ok
-block 255 addr 0x8000FF000 pattern 0xAAAAAAAA write ok read ok
-testmemory --1MB: Passed
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
 INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6s Plus', 'baseband --off',
 replace('
 baseband --off', char(10), char(13, 10)) || char(13) || replace('
@@ -5388,6 +3246,66 @@ replace('
 buckcheck 5', char(10), char(13, 10)) || char(13) || replace('
 buckcheck starting, please wait
 buck5 target 1060 mV measured 1067.289 mV PASS
+[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
+'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6s Plus', 'BUTTONCNT --DQE',
+replace('
+BUTTONCNT --DQE', char(10), char(13, 10)) || char(13) || replace('
+Button count test running, results on the device screen
+Send /q to quit
+[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
+'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6s Plus', 'Help',
+replace('
+Help', char(10), char(13, 10)) || char(13) || replace('
+Available commands (type <command> --help for options):
+  accel          diagnostics command accel: run, read or control the accel block of the board
+  als            diagnostics command als: run, read or control the als block of the board
+  audio          diagnostics command audio: run, read or control the audio block of the board
+  baseband       diagnostics command baseband: run, read or control the baseband block of the board
+  battery        diagnostics command battery: run, read or control the battery block of the board
+  bl             diagnostics command bl: run, read or control the bl block of the board
+  bluetooth      diagnostics command bluetooth: run, read or control the bluetooth block of the board
+  buck           diagnostics command buck: run, read or control the buck block of the board
+  buckcheck      diagnostics command buckcheck: run, read or control the buckcheck block of the board
+  buttoncnt      diagnostics command buttoncnt: run, read or control the buttoncnt block of the board
+  camisp         diagnostics command camisp: run, read or control the camisp block of the board
+  charge         diagnostics command charge: run, read or control the charge block of the board
+  compass        diagnostics command compass: run, read or control the compass block of the board
+  consoleinit    diagnostics command consoleinit: run, read or control the consoleinit block of the board
+  device         diagnostics command device: run, read or control the device block of the board
+  diags          diagnostics command diags: run, read or control the diags block of the board
+  display        diagnostics command display: run, read or control the display block of the board
+  dock           diagnostics command dock: run, read or control the dock block of the board
+  exit           diagnostics command exit: run, read or control the exit block of the board
+  gps            diagnostics command gps: run, read or control the gps block of the board
+  gyro           diagnostics command gyro: run, read or control the gyro block of the board
+  help           diagnostics command help: run, read or control the help block of the board
+  hydra          diagnostics command hydra: run, read or control the hydra block of the board
+  i2c            diagnostics command i2c: run, read or control the i2c block of the board
+  mic            diagnostics command mic: run, read or control the mic block of the board
+  nand           diagnostics command nand: run, read or control the nand block of the board
+  nandsize       diagnostics command nandsize: run, read or control the nandsize block of the board
+  nanduid        diagnostics command nanduid: run, read or control the nanduid block of the board
+  pmuadc         diagnostics command pmuadc: run, read or control the pmuadc block of the board
+  pmureg         diagnostics command pmureg: run, read or control the pmureg block of the board
+  prox           diagnostics command prox: run, read or control the prox block of the board
+  reset          diagnostics command reset: run, read or control the reset block of the board
+  rtc            diagnostics command rtc: run, read or control the rtc block of the board
+  sensor         diagnostics command sensor: run, read or control the sensor block of the board
+  shutdown       diagnostics command shutdown: run, read or control the shutdown block of the board
+  smokey         diagnostics command smokey: run, read or control the smokey block of the board
+  soc            diagnostics command soc: run, read or control the soc block of the board
+  speaker        diagnostics command speaker: run, read or control the speaker block of the board
+  syscfg         diagnostics command syscfg: run, read or control the syscfg block of the board
+  temp           diagnostics command temp: run, read or control the temp block of the board
+  testmemory     diagnostics command testmemory: run, read or control the testmemory block of the board
+  touch          diagnostics command touch: run, read or control the touch block of the board
+  tristar        diagnostics command tristar: run, read or control the tristar block of the board
+  usb            diagnostics command usb: run, read or control the usb block of the board
+  version        diagnostics command version: run, read or control the version block of the board
+  vibrator       diagnostics command vibrator: run, read or control the vibrator block of the board
+  wifi           diagnostics command wifi: run, read or control the wifi block of the board
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
 INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6s Plus', 'i2c -s 0',
@@ -5536,6 +3454,12 @@ tigris vdd : 3802.591 mV
 tigris die_temp : 31.25 C
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6s Plus', 'Reset',
+replace('
+Reset', char(10), char(13, 10)) || char(13) || replace('
+Resetting device...
+[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
+'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
 INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6s Plus', 'syscfg list',
 replace('
 syscfg list', char(10), char(13, 10)) || char(13) || replace('
@@ -5628,9 +3552,9 @@ memory test random       Passed
 testmemory: Passed
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6s Plus', 'testmemory --1MB',
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6s Plus', 'TESTMEMORY --1MB',
 replace('
-testmemory --1MB', char(10), char(13, 10)) || char(13) || replace('
+TESTMEMORY --1MB', char(10), char(13, 10)) || char(13) || replace('
 testmemory 1MB read/write, 256 blocks of 4 KiB
 block   0 addr 0x800000000 pattern 0x55555555 write ok read ok
 block   0 addr 0x800000000 pattern 0xAAAAAAAA write ok read ok
@@ -6244,591 +4168,6 @@ replace('
 Button count test ended
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 7', 'BUTTONCNT --DQE',
-replace('
-BUTTONCNT --DQE', char(10), char(13, 10)) || char(13) || replace('
-Button count test running, results on the device screen
-Send /q to quit
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 7', 'Help',
-replace('
-Help', char(10), char(13, 10)) || char(13) || replace('
-Available commands (type <command> --help for options):
-  accel          diagnostics command accel: run, read or control the accel block of the board
-  als            diagnostics command als: run, read or control the als block of the board
-  audio          diagnostics command audio: run, read or control the audio block of the board
-  baseband       diagnostics command baseband: run, read or control the baseband block of the board
-  battery        diagnostics command battery: run, read or control the battery block of the board
-  bl             diagnostics command bl: run, read or control the bl block of the board
-  bluetooth      diagnostics command bluetooth: run, read or control the bluetooth block of the board
-  buck           diagnostics command buck: run, read or control the buck block of the board
-  buckcheck      diagnostics command buckcheck: run, read or control the buckcheck block of the board
-  buttoncnt      diagnostics command buttoncnt: run, read or control the buttoncnt block of the board
-  camisp         diagnostics command camisp: run, read or control the camisp block of the board
-  charge         diagnostics command charge: run, read or control the charge block of the board
-  compass        diagnostics command compass: run, read or control the compass block of the board
-  consoleinit    diagnostics command consoleinit: run, read or control the consoleinit block of the board
-  device         diagnostics command device: run, read or control the device block of the board
-  diags          diagnostics command diags: run, read or control the diags block of the board
-  display        diagnostics command display: run, read or control the display block of the board
-  dock           diagnostics command dock: run, read or control the dock block of the board
-  exit           diagnostics command exit: run, read or control the exit block of the board
-  gps            diagnostics command gps: run, read or control the gps block of the board
-  gyro           diagnostics command gyro: run, read or control the gyro block of the board
-  help           diagnostics command help: run, read or control the help block of the board
-  hydra          diagnostics command hydra: run, read or control the hydra block of the board
-  i2c            diagnostics command i2c: run, read or control the i2c block of the board
-  mic            diagnostics command mic: run, read or control the mic block of the board
-  nand           diagnostics command nand: run, read or control the nand block of the board
-  nandsize       diagnostics command nandsize: run, read or control the nandsize block of the board
-  nanduid        diagnostics command nanduid: run, read or control the nanduid block of the board
-  pmuadc         diagnostics command pmuadc: run, read or control the pmuadc block of the board
-  pmureg         diagnostics command pmureg: run, read or control the pmureg block of the board
-  prox           diagnostics command prox: run, read or control the prox block of the board
-  reset          diagnostics command reset: run, read or control the reset block of the board
-  rtc            diagnostics command rtc: run, read or control the rtc block of the board
-  sensor         diagnostics command sensor: run, read or control the sensor block of the board
-  shutdown       diagnostics command shutdown: run, read or control the shutdown block of the board
-  smokey         diagnostics command smokey: run, read or control the smokey block of the board
-  soc            diagnostics command soc: run, read or control the soc block of the board
-  speaker        diagnostics command speaker: run, read or control the speaker block of the board
-  syscfg         diagnostics command syscfg: run, read or control the syscfg block of the board
-  temp           diagnostics command temp: run, read or control the temp block of the board
-  testmemory     diagnostics command testmemory: run, read or control the testmemory block of the board
-  touch          diagnostics command touch: run, read or control the touch block of the board
-  tristar        diagnostics command tristar: run, read or control the tristar block of the board
-  usb            diagnostics command usb: run, read or control the usb block of the board
-  version        diagnostics command version: run, read or control the version block of the board
-  vibrator       diagnostics command vibrator: run, read or control the vibrator block of the board
-  wifi           diagnostics command wifi: run, read or control the wifi block of the board
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 7', 'Reset',
-replace('
-Reset', char(10), char(13, 10)) || char(13) || replace('
-Resetting device...
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 7', 'TESTMEMORY --1MB',
-replace('
-TESTMEMORY --1MB', char(10), char(13, 10)) || char(13) || replace('
-testmemory 1MB read/write, 256 blocks of 4 KiB
-block   0 addr 0x800000000 pattern 0x55555555 write ok read ok
-block   0 addr 0x800000000 pattern 0xAAAAAAAA write ok read ok
-block   1 addr 0x800001000 pattern 0x55555555 write ok read ok
-block   1 addr 0x800001000 pattern 0xAAAAAAAA write ok read ok
-block   2 addr 0x800002000 pattern 0x55555555 write ok read ok
-block   2 addr 0x800002000 pattern 0xAAAAAAAA write ok read ok
-block   3 addr 0x800003000 pattern 0x55555555 write ok read ok
-block   3 addr 0x800003000 pattern 0xAAAAAAAA write ok read ok
-block   4 addr 0x800004000 pattern 0x55555555 write ok read ok
-block   4 addr 0x800004000 pattern 0xAAAAAAAA write ok read ok
-block   5 addr 0x800005000 pattern 0x55555555 write ok read ok
-block   5 addr 0x800005000 pattern 0xAAAAAAAA write ok read ok
-block   6 addr 0x800006000 pattern 0x55555555 write ok read ok
-block   6 addr 0x800006000 pattern 0xAAAAAAAA write ok read ok
-block   7 addr 0x800007000 pattern 0x55555555 write ok read ok
-block   7 addr 0x800007000 pattern 0xAAAAAAAA write ok read ok
-block   8 addr 0x800008000 pattern 0x55555555 write ok read ok
-block   8 addr 0x800008000 pattern 0xAAAAAAAA write ok read ok
-block   9 addr 0x800009000 pattern 0x55555555 write ok read ok
-block   9 addr 0x800009000 pattern 0xAAAAAAAA write ok read ok
-block  10 addr 0x80000A000 pattern 0x55555555 write ok read ok
-block  10 addr 0x80000A000 pattern 0xAAAAAAAA write ok read ok
-block  11 addr 0x80000B000 pattern 0x55555555 write ok read ok
-block  11 addr 0x80000B000 pattern 0xAAAAAAAA write ok read ok
-block  12 addr 0x80000C000 pattern 0x55555555 write ok read ok
-block  12 addr 0x80000C000 pattern 0xAAAAAAAA write ok read ok
-block  13 addr 0x80000D000 pattern 0x55555555 write ok read ok
-block  13 addr 0x80000D000 pattern 0xAAAAAAAA write ok read ok
-block  14 addr 0x80000E000 pattern 0x55555555 write ok read ok
-block  14 addr 0x80000E000 pattern 0xAAAAAAAA write ok read ok
-block  15 addr 0x80000F000 pattern 0x55555555 write ok read ok
-block  15 addr 0x80000F000 pattern 0xAAAAAAAA write ok read ok
-block  16 addr 0x800010000 pattern 0x55555555 write ok read ok
-block  16 addr 0x800010000 pattern 0xAAAAAAAA write ok read ok
-block  17 addr 0x800011000 pattern 0x55555555 write ok read ok
-block  17 addr 0x800011000 pattern 0xAAAAAAAA write ok read ok
-block  18 addr 0x800012000 pattern 0x55555555 write ok read ok
-block  18 addr 0x800012000 pattern 0xAAAAAAAA write ok read ok
-block  19 addr 0x800013000 pattern 0x55555555 write ok read ok
-block  19 addr 0x800013000 pattern 0xAAAAAAAA write ok read ok
-block  20 addr 0x800014000 pattern 0x55555555 write ok read ok
-block  20 addr 0x800014000 pattern 0xAAAAAAAA write ok read ok
-block  21 addr 0x800015000 pattern 0x55555555 write ok read ok
-block  21 addr 0x800015000 pattern 0xAAAAAAAA write ok read ok
-block  22 addr 0x800016000 pattern 0x55555555 write ok read ok
-block  22 addr 0x800016000 pattern 0xAAAAAAAA write ok read ok
-block  23 addr 0x800017000 pattern 0x55555555 write ok read ok
-block  23 addr 0x800017000 pattern 0xAAAAAAAA write ok read ok
-block  24 addr 0x800018000 pattern 0x55555555 write ok read ok
-block  24 addr 0x800018000 pattern 0xAAAAAAAA write ok read ok
-block  25 addr 0x800019000 pattern 0x55555555 write ok read ok
-block  25 addr 0x800019000 pattern 0xAAAAAAAA write ok read ok
-block  26 addr 0x80001A000 pattern 0x55555555 write ok read ok
-block  26 addr 0x80001A000 pattern 0xAAAAAAAA write ok read ok
-block  27 addr 0x80001B000 pattern 0x55555555 write ok read ok
-block  27 addr 0x80001B000 pattern 0xAAAAAAAA write ok read ok
-block  28 addr 0x80001C000 pattern 0x55555555 write ok read ok
-block  28 addr 0x80001C000 pattern 0xAAAAAAAA write ok read ok
-block  29 addr 0x80001D000 pattern 0x55555555 write ok read ok
-block  29 addr 0x80001D000 pattern 0xAAAAAAAA write ok read ok
-block  30 addr 0x80001E000 pattern 0x55555555 write ok read ok
-block  30 addr 0x80001E000 pattern 0xAAAAAAAA write ok read ok
-block  31 addr 0x80001F000 pattern 0x55555555 write ok read ok
-block  31 addr 0x80001F000 pattern 0xAAAAAAAA write ok read ok
-block  32 addr 0x800020000 pattern 0x55555555 write ok read ok
-block  32 addr 0x800020000 pattern 0xAAAAAAAA write ok read ok
-block  33 addr 0x800021000 pattern 0x55555555 write ok read ok
-block  33 addr 0x800021000 pattern 0xAAAAAAAA write ok read ok
-block  34 addr 0x800022000 pattern 0x55555555 write ok read ok
-block  34 addr 0x800022000 pattern 0xAAAAAAAA write ok read ok
-block  35 addr 0x800023000 pattern 0x55555555 write ok read ok
-block  35 addr 0x800023000 pattern 0xAAAAAAAA write ok read ok
-block  36 addr 0x800024000 pattern 0x55555555 write ok read ok
-block  36 addr 0x800024000 pattern 0xAAAAAAAA write ok read ok
-block  37 addr 0x800025000 pattern 0x55555555 write ok read ok
-block  37 addr 0x800025000 pattern 0xAAAAAAAA write ok read ok
-block  38 addr 0x800026000 pattern 0x55555555 write ok read ok
-block  38 addr 0x800026000 pattern 0xAAAAAAAA write ok read ok
-block  39 addr 0x800027000 pattern 0x55555555 write ok read ok
-block  39 addr 0x800027000 pattern 0xAAAAAAAA write ok read ok
-block  40 addr 0x800028000 pattern 0x55555555 write ok read ok
-block  40 addr 0x800028000 pattern 0xAAAAAAAA write ok read ok
-block  41 addr 0x800029000 pattern 0x55555555 write ok read ok
-block  41 addr 0x800029000 pattern 0xAAAAAAAA write ok read ok
-block  42 addr 0x80002A000 pattern 0x55555555 write ok read ok
-block  42 addr 0x80002A000 pattern 0xAAAAAAAA write ok read ok
-block  43 addr 0x80002B000 pattern 0x55555555 write ok read ok
-block  43 addr 0x80002B000 pattern 0xAAAAAAAA write ok read ok
-block  44 addr 0x80002C000 pattern 0x55555555 write ok read ok
-block  44 addr 0x80002C000 pattern 0xAAAAAAAA write ok read ok
-block  45 addr 0x80002D000 pattern 0x55555555 write ok read ok
-block  45 addr 0x80002D000 pattern 0xAAAAAAAA write ok read ok
-block  46 addr 0x80002E000 pattern 0x55555555 write ok read ok
-block  46 addr 0x80002E000 pattern 0xAAAAAAAA write ok read ok
-block  47 addr 0x80002F000 pattern 0x55555555 write ok read ok
-block  47 addr 0x80002F000 pattern 0xAAAAAAAA write ok read ok
-block  48 addr 0x800030000 pattern 0x55555555 write ok read ok
-block  48 addr 0x800030000 pattern 0xAAAAAAAA write ok read ok
-block  49 addr 0x800031000 pattern 0x55555555 write ok read ok
-block  49 addr 0x800031000 pattern 0xAAAAAAAA write ok read ok
-block  50 addr 0x800032000 pattern 0x55555555 write ok read ok
-block  50 addr 0x800032000 pattern 0xAAAAAAAA write ok read ok
-block  51 addr 0x800033000 pattern 0x55555555 write ok read ok
-block  51 addr 0x800033000 pattern 0xAAAAAAAA write ok read ok
-block  52 addr 0x800034000 pattern 0x55555555 write ok read ok
-block  52 addr 0x800034000 pattern 0xAAAAAAAA write ok read ok
-block  53 addr 0x800035000 pattern 0x55555555 write ok read ok
-block  53 addr 0x800035000 pattern 0xAAAAAAAA write ok read ok
-block  54 addr 0x800036000 pattern 0x55555555 write ok read ok
-block  54 addr 0x800036000 pattern 0xAAAAAAAA write ok read ok
-block  55 addr 0x800037000 pattern 0x55555555 write ok read ok
-block  55 addr 0x800037000 pattern 0xAAAAAAAA write ok read ok
-block  56 addr 0x800038000 pattern 0x55555555 write ok read ok
-block  56 addr 0x800038000 pattern 0xAAAAAAAA write ok read ok
-block  57 addr 0x800039000 pattern 0x55555555 write ok read ok
-block  57 addr 0x800039000 pattern 0xAAAAAAAA write ok read ok
-block  58 addr 0x80003A000 pattern 0x55555555 write ok read ok
-block  58 addr 0x80003A000 pattern 0xAAAAAAAA write ok read ok
-block  59 addr 0x80003B000 pattern 0x55555555 write ok read ok
-block  59 addr 0x80003B000 pattern 0xAAAAAAAA write ok read ok
-block  60 addr 0x80003C000 pattern 0x55555555 write ok read ok
-block  60 addr 0x80003C000 pattern 0xAAAAAAAA write ok read ok
-block  61 addr 0x80003D000 pattern 0x55555555 write ok read ok
-block  61 addr 0x80003D000 pattern 0xAAAAAAAA write ok read ok
-block  62 addr 0x80003E000 pattern 0x55555555 write ok read ok
-block  62 addr 0x80003E000 pattern 0xAAAAAAAA write ok read ok
-block  63 addr 0x80003F000 pattern 0x55555555 write ok read ok
-block  63 addr 0x80003F000 pattern 0xAAAAAAAA write ok read ok
-block  64 addr 0x800040000 pattern 0x55555555 write ok read ok
-block  64 addr 0x800040000 pattern 0xAAAAAAAA write ok read ok
-block  65 addr 0x800041000 pattern 0x55555555 write ok read ok
-block  65 addr 0x800041000 pattern 0xAAAAAAAA write ok read ok
-block  66 addr 0x800042000 pattern 0x55555555 write ok read ok
-block  66 addr 0x800042000 pattern 0xAAAAAAAA write ok read ok
-block  67 addr 0x800043000 pattern 0x55555555 write ok read ok
-block  67 addr 0x800043000 pattern 0xAAAAAAAA write ok read ok
-block  68 addr 0x800044000 pattern 0x55555555 write ok read ok
-block  68 addr 0x800044000 pattern 0xAAAAAAAA write ok read ok
-block  69 addr 0x800045000 pattern 0x55555555 write ok read ok
-block  69 addr 0x800045000 pattern 0xAAAAAAAA write ok read ok
-block  70 addr 0x800046000 pattern 0x55555555 write ok read ok
-block  70 addr 0x800046000 pattern 0xAAAAAAAA write ok read ok
-block  71 addr 0x800047000 pattern 0x55555555 write ok read ok
-block  71 addr 0x800047000 pattern 0xAAAAAAAA write ok read ok
-block  72 addr 0x800048000 pattern 0x55555555 write ok read ok
-block  72 addr 0x800048000 pattern 0xAAAAAAAA write ok read ok
-block  73 addr 0x800049000 pattern 0x55555555 write ok read ok
-block  73 addr 0x800049000 pattern 0xAAAAAAAA write ok read ok
-block  74 addr 0x80004A000 pattern 0x55555555 write ok read ok
-block  74 addr 0x80004A000 pattern 0xAAAAAAAA write ok read ok
-block  75 addr 0x80004B000 pattern 0x55555555 write ok read ok
-block  75 addr 0x80004B000 pattern 0xAAAAAAAA write ok read ok
-block  76 addr 0x80004C000 pattern 0x55555555 write ok read ok
-block  76 addr 0x80004C000 pattern 0xAAAAAAAA write ok read ok
-block  77 addr 0x80004D000 pattern 0x55555555 write ok read ok
-block  77 addr 0x80004D000 pattern 0xAAAAAAAA write ok read ok
-block  78 addr 0x80004E000 pattern 0x55555555 write ok read ok
-block  78 addr 0x80004E000 pattern 0xAAAAAAAA write ok read ok
-block  79 addr 0x80004F000 pattern 0x55555555 write ok read ok
-block  79 addr 0x80004F000 pattern 0xAAAAAAAA write ok read ok
-block  80 addr 0x800050000 pattern 0x55555555 write ok read ok
-block  80 addr 0x800050000 pattern 0xAAAAAAAA write ok read ok
-block  81 addr 0x800051000 pattern 0x55555555 write ok read ok
-block  81 addr 0x800051000 pattern 0xAAAAAAAA write ok read ok
-block  82 addr 0x800052000 pattern 0x55555555 write ok read ok
-block  82 addr 0x800052000 pattern 0xAAAAAAAA write ok read ok
-block  83 addr 0x800053000 pattern 0x55555555 write ok read ok
-block  83 addr 0x800053000 pattern 0xAAAAAAAA write ok read ok
-block  84 addr 0x800054000 pattern 0x55555555 write ok read ok
-block  84 addr 0x800054000 pattern 0xAAAAAAAA write ok read ok
-block  85 addr 0x800055000 pattern 0x55555555 write ok read ok
-block  85 addr 0x800055000 pattern 0xAAAAAAAA write ok read ok
-block  86 addr 0x800056000 pattern 0x55555555 write ok read ok
-block  86 addr 0x800056000 pattern 0xAAAAAAAA write ok read ok
-block  87 addr 0x800057000 pattern 0x55555555 write ok read ok
-block  87 addr 0x800057000 pattern 0xAAAAAAAA write ok read ok
-block  88 addr 0x800058000 pattern 0x55555555 write ok read ok
-block  88 addr 0x800058000 pattern 0xAAAAAAAA write ok read ok
-block  89 addr 0x800059000 pattern 0x55555555 write ok read ok
-block  89 addr 0x800059000 pattern 0xAAAAAAAA write ok read ok
-block  90 addr 0x80005A000 pattern 0x55555555 write ok read ok
-block  90 addr 0x80005A000 pattern 0xAAAAAAAA write ok read ok
-block  91 addr 0x80005B000 pattern 0x55555555 write ok read ok
-block  91 addr 0x80005B000 pattern 0xAAAAAAAA write ok read ok
-block  92 addr 0x80005C000 pattern 0x55555555 write ok read ok
-block  92 addr 0x80005C000 pattern 0xAAAAAAAA write ok read ok
-block  93 addr 0x80005D000 pattern 0x55555555 write ok read ok
-block  93 addr 0x80005D000 pattern 0xAAAAAAAA write ok read ok
-block  94 addr 0x80005E000 pattern 0x55555555 write ok read ok
-block  94 addr 0x80005E000 pattern 0xAAAAAAAA write ok read ok
-block  95 addr 0x80005F000 pattern 0x55555555 write ok read ok
-block  95 addr 0x80005F000 pattern 0xAAAAAAAA write ok read ok
-block  96 addr 0x800060000 pattern 0x55555555 write ok read ok
-block  96 addr 0x800060000 pattern 0xAAAAAAAA write ok read ok
-block  97 addr 0x800061000 pattern 0x55555555 write ok read ok
-block  97 addr 0x800061000 pattern 0xAAAAAAAA write ok read ok
-block  98 addr 0x800062000 pattern 0x55555555 write ok read ok
-block  98 addr 0x800062000 pattern 0xAAAAAAAA write ok read ok
-block  99 addr 0x800063000 pattern 0x55555555 write ok read ok
-block  99 addr 0x800063000 pattern 0xAAAAAAAA write ok read ok
-block 100 addr 0x800064000 pattern 0x55555555 write ok read ok
-block 100 addr 0x800064000 pattern 0xAAAAAAAA write ok read ok
-block 101 addr 0x800065000 pattern 0x55555555 write ok read ok
-block 101 addr 0x800065000 pattern 0xAAAAAAAA write ok read ok
-block 102 addr 0x800066000 pattern 0x55555555 write ok read ok
-block 102 addr 0x800066000 pattern 0xAAAAAAAA write ok read ok
-block 103 addr 0x800067000 pattern 0x55555555 write ok read ok
-block 103 addr 0x800067000 pattern 0xAAAAAAAA write ok read ok
-block 104 addr 0x800068000 pattern 0x55555555 write ok read ok
-block 104 addr 0x800068000 pattern 0xAAAAAAAA write ok read ok
-block 105 addr 0x800069000 pattern 0x55555555 write ok read ok
-block 105 addr 0x800069000 pattern 0xAAAAAAAA write ok read ok
-block 106 addr 0x80006A000 pattern 0x55555555 write ok read ok
-block 106 addr 0x80006A000 pattern 0xAAAAAAAA write ok read ok
-block 107 addr 0x80006B000 pattern 0x55555555 write ok read ok
-block 107 addr 0x80006B000 pattern 0xAAAAAAAA write ok read ok
-block 108 addr 0x80006C000 pattern 0x55555555 write ok read ok
-block 108 addr 0x80006C000 pattern 0xAAAAAAAA write ok read ok
-block 109 addr 0x80006D000 pattern 0x55555555 write ok read ok
-block 109 addr 0x80006D000 pattern 0xAAAAAAAA write ok read ok
-block 110 addr 0x80006E000 pattern 0x55555555 write ok read ok
-block 110 addr 0x80006E000 pattern 0xAAAAAAAA write ok read ok
-block 111 addr 0x80006F000 pattern 0x55555555 write ok read ok
-block 111 addr 0x80006F000 pattern 0xAAAAAAAA write ok read ok
-block 112 addr 0x800070000 pattern 0x55555555 write ok read ok
-block 112 addr 0x800070000 pattern 0xAAAAAAAA write ok read ok
-block 113 addr 0x800071000 pattern 0x55555555 write ok read ok
-block 113 addr 0x800071000 pattern 0xAAAAAAAA write ok read ok
-block 114 addr 0x800072000 pattern 0x55555555 write ok read ok
-block 114 addr 0x800072000 pattern 0xAAAAAAAA write ok read ok
-block 115 addr 0x800073000 pattern 0x55555555 write ok read ok
-block 115 addr 0x800073000 pattern 0xAAAAAAAA write ok read ok
-block 116 addr 0x800074000 pattern 0x55555555 write ok read ok
-block 116 addr 0x800074000 pattern 0xAAAAAAAA write ok read ok
-block 117 addr 0x800075000 pattern 0x55555555 write ok read ok
-block 117 addr 0x800075000 pattern 0xAAAAAAAA write ok read ok
-block 118 addr 0x800076000 pattern 0x55555555 write ok read ok
-block 118 addr 0x800076000 pattern 0xAAAAAAAA write ok read ok
-block 119 addr 0x800077000 pattern 0x55555555 write ok read ok
-block 119 addr 0x800077000 pattern 0xAAAAAAAA write ok read ok
-block 120 addr 0x800078000 pattern 0x55555555 write ok read ok
-block 120 addr 0x800078000 pattern 0xAAAAAAAA write ok read ok
-block 121 addr 0x800079000 pattern 0x55555555 write ok read ok
-block 121 addr 0x800079000 pattern 0xAAAAAAAA write ok read ok
-block 122 addr 0x80007A000 pattern 0x55555555 write ok read ok
-block 122 addr 0x80007A000 pattern 0xAAAAAAAA write ok read ok
-block 123 addr 0x80007B000 pattern 0x55555555 write ok read ok
-block 123 addr 0x80007B000 pattern 0xAAAAAAAA write ok read ok
-block 124 addr 0x80007C000 pattern 0x55555555 write ok read ok
-block 124 addr 0x80007C000 pattern 0xAAAAAAAA write ok read ok
-block 125 addr 0x80007D000 pattern 0x55555555 write ok read ok
-block 125 addr 0x80007D000 pattern 0xAAAAAAAA write ok read ok
-block 126 addr 0x80007E000 pattern 0x55555555 write ok read ok
-block 126 addr 0x80007E000 pattern 0xAAAAAAAA write ok read ok
-block 127 addr 0x80007F000 pattern 0x55555555 write ok read ok
-block 127 addr 0x80007F000 pattern 0xAAAAAAAA write ok read ok
-block 128 addr 0x800080000 pattern 0x55555555 write ok read ok
-block 128 addr 0x800080000 pattern 0xAAAAAAAA write ok read ok
-block 129 addr 0x800081000 pattern 0x55555555 write ok read ok
-block 129 addr 0x800081000 pattern 0xAAAAAAAA write ok read ok
-block 130 addr 0x800082000 pattern 0x55555555 write ok read ok
-block 130 addr 0x800082000 pattern 0xAAAAAAAA write ok read ok
-block 131 addr 0x800083000 pattern 0x55555555 write ok read ok
-block 131 addr 0x800083000 pattern 0xAAAAAAAA write ok read ok
-block 132 addr 0x800084000 pattern 0x55555555 write ok read ok
-block 132 addr 0x800084000 pattern 0xAAAAAAAA write ok read ok
-block 133 addr 0x800085000 pattern 0x55555555 write ok read ok
-block 133 addr 0x800085000 pattern 0xAAAAAAAA write ok read ok
-block 134 addr 0x800086000 pattern 0x55555555 write ok read ok
-block 134 addr 0x800086000 pattern 0xAAAAAAAA write ok read ok
-block 135 addr 0x800087000 pattern 0x55555555 write ok read ok
-block 135 addr 0x800087000 pattern 0xAAAAAAAA write ok read ok
-block 136 addr 0x800088000 pattern 0x55555555 write ok read ok
-block 136 addr 0x800088000 pattern 0xAAAAAAAA write ok read ok
-block 137 addr 0x800089000 pattern 0x55555555 write ok read ok
-block 137 addr 0x800089000 pattern 0xAAAAAAAA write ok read ok
-block 138 addr 0x80008A000 pattern 0x55555555 write ok read ok
-block 138 addr 0x80008A000 pattern 0xAAAAAAAA write ok read ok
-block 139 addr 0x80008B000 pattern 0x55555555 write ok read ok
-block 139 addr 0x80008B000 pattern 0xAAAAAAAA write ok read ok
-block 140 addr 0x80008C000 pattern 0x55555555 write ok read ok
-block 140 addr 0x80008C000 pattern 0xAAAAAAAA write ok read ok
-block 141 addr 0x80008D000 pattern 0x55555555 write ok read ok
-block 141 addr 0x80008D000 pattern 0xAAAAAAAA write ok read ok
-block 142 addr 0x80008E000 pattern 0x55555555 write ok read ok
-block 142 addr 0x80008E000 pattern 0xAAAAAAAA write ok read ok
-block 143 addr 0x80008F000 pattern 0x55555555 write ok read ok
-block 143 addr 0x80008F000 pattern 0xAAAAAAAA write ok read ok
-block 144 addr 0x800090000 pattern 0x55555555 write ok read ok
-block 144 addr 0x800090000 pattern 0xAAAAAAAA write ok read ok
-block 145 addr 0x800091000 pattern 0x55555555 write ok read ok
-block 145 addr 0x800091000 pattern 0xAAAAAAAA write ok read ok
-block 146 addr 0x800092000 pattern 0x55555555 write ok read ok
-block 146 addr 0x800092000 pattern 0xAAAAAAAA write ok read ok
-block 147 addr 0x800093000 pattern 0x55555555 write ok read ok
-block 147 addr 0x800093000 pattern 0xAAAAAAAA write ok read ok
-block 148 addr 0x800094000 pattern 0x55555555 write ok read ok
-block 148 addr 0x800094000 pattern 0xAAAAAAAA write ok read ok
-block 149 addr 0x800095000 pattern 0x55555555 write ok read ok
-block 149 addr 0x800095000 pattern 0xAAAAAAAA write ok read ok
-block 150 addr 0x800096000 pattern 0x55555555 write ok read ok
-block 150 addr 0x800096000 pattern 0xAAAAAAAA write ok read ok
-block 151 addr 0x800097000 pattern 0x55555555 write ok read ok
-block 151 addr 0x800097000 pattern 0xAAAAAAAA write ok read ok
-block 152 addr 0x800098000 pattern 0x55555555 write ok read ok
-block 152 addr 0x800098000 pattern 0xAAAAAAAA write ok read ok
-block 153 addr 0x800099000 pattern 0x55555555 write ok read ok
-block 153 addr 0x800099000 pattern 0xAAAAAAAA write ok read ok
-block 154 addr 0x80009A000 pattern 0x55555555 write ok read ok
-block 154 addr 0x80009A000 pattern 0xAAAAAAAA write ok read ok
-block 155 addr 0x80009B000 pattern 0x55555555 write ok read ok
-block 155 addr 0x80009B000 pattern 0xAAAAAAAA write ok read ok
-block 156 addr 0x80009C000 pattern 0x55555555 write ok read ok
-block 156 addr 0x80009C000 pattern 0xAAAAAAAA write ok read ok
-block 157 addr 0x80009D000 pattern 0x55555555 write ok read ok
-block 157 addr 0x80009D000 pattern 0xAAAAAAAA write ok read ok
-block 158 addr 0x80009E000 pattern 0x55555555 write ok read ok
-block 158 addr 0x80009E000 pattern 0xAAAAAAAA write ok read ok
-block 159 addr 0x80009F000 pattern 0x55555555 write ok read ok
-block 159 addr 0x80009F000 pattern 0xAAAAAAAA write ok read ok
-block 160 addr 0x8000A0000 pattern 0x55555555 write ok read ok
-block 160 addr 0x8000A0000 pattern 0xAAAAAAAA write ok read ok
-block 161 addr 0x8000A1000 pattern 0x55555555 write ok read ok
-block 161 addr 0x8000A1000 pattern 0xAAAAAAAA write ok read ok
-block 162 addr 0x8000A2000 pattern 0x55555555 write ok read ok
-block 162 addr 0x8000A2000 pattern 0xAAAAAAAA write ok read ok
-block 163 addr 0x8000A3000 pattern 0x55555555 write ok read ok
-block 163 addr 0x8000A3000 pattern 0xAAAAAAAA write ok read ok
-block 164 addr 0x8000A4000 pattern 0x55555555 write ok read ok
-block 164 addr 0x8000A4000 pattern 0xAAAAAAAA write ok read ok
-block 165 addr 0x8000A5000 pattern 0x55555555 write ok read ok
-block 165 addr 0x8000A5000 pattern 0xAAAAAAAA write ok read ok
-block 166 addr 0x8000A6000 pattern 0x55555555 write ok read ok
-block 166 addr 0x8000A6000 pattern 0xAAAAAAAA write ok read ok
-block 167 addr 0x8000A7000 pattern 0x55555555 write ok read ok
-block 167 addr 0x8000A7000 pattern 0xAAAAAAAA write ok read ok
-block 168 addr 0x8000A8000 pattern 0x55555555 write ok read ok
-block 168 addr 0x8000A8000 pattern 0xAAAAAAAA write ok read ok
-block 169 addr 0x8000A9000 pattern 0x55555555 write ok read ok
-block 169 addr 0x8000A9000 pattern 0xAAAAAAAA write ok read ok
-block 170 addr 0x8000AA000 pattern 0x55555555 write ok read ok
-block 170 addr 0x8000AA000 pattern 0xAAAAAAAA write ok read ok
-block 171 addr 0x8000AB000 pattern 0x55555555 write ok read ok
-block 171 addr 0x8000AB000 pattern 0xAAAAAAAA write ok read ok
-block 172 addr 0x8000AC000 pattern 0x55555555 write ok read ok
-block 172 addr 0x8000AC000 pattern 0xAAAAAAAA write ok read ok
-block 173 addr 0x8000AD000 pattern 0x55555555 write ok read ok
-block 173 addr 0x8000AD000 pattern 0xAAAAAAAA write ok read ok
-block 174 addr 0x8000AE000 pattern 0x55555555 write ok read ok
-block 174 addr 0x8000AE000 pattern 0xAAAAAAAA write ok read ok
-block 175 addr 0x8000AF000 pattern 0x55555555 write ok read ok
-block 175 addr 0x8000AF000 pattern 0xAAAAAAAA write ok read ok
-block 176 addr 0x8000B0000 pattern 0x55555555 write ok read ok
-block 176 addr 0x8000B0000 pattern 0xAAAAAAAA write ok read ok
-block 177 addr 0x8000B1000 pattern 0x55555555 write ok read ok
-block 177 addr 0x8000B1000 pattern 0xAAAAAAAA write ok read ok
-block 178 addr 0x8000B2000 pattern 0x55555555 write ok read ok
-block 178 addr 0x8000B2000 pattern 0xAAAAAAAA write ok read ok
-block 179 addr 0x8000B3000 pattern 0x55555555 write ok read ok
-block 179 addr 0x8000B3000 pattern 0xAAAAAAAA write ok read ok
-block 180 addr 0x8000B4000 pattern 0x55555555 write ok read ok
-block 180 addr 0x8000B4000 pattern 0xAAAAAAAA write ok read ok
-block 181 addr 0x8000B5000 pattern 0x55555555 write ok read ok
-block 181 addr 0x8000B5000 pattern 0xAAAAAAAA write ok read ok
-block 182 addr 0x8000B6000 pattern 0x55555555 write ok read ok
-block 182 addr 0x8000B6000 pattern 0xAAAAAAAA write ok read ok
-block 183 addr 0x8000B7000 pattern 0x55555555 write ok read ok
-block 183 addr 0x8000B7000 pattern 0xAAAAAAAA write ok read ok
-block 184 addr 0x8000B8000 pattern 0x55555555 write ok read ok
-block 184 addr 0x8000B8000 pattern 0xAAAAAAAA write ok read ok
-block 185 addr 0x8000B9000 pattern 0x55555555 write ok read ok
-block 185 addr 0x8000B9000 pattern 0xAAAAAAAA write ok read ok
-block 186 addr 0x8000BA000 pattern 0x55555555 write ok read ok
-block 186 addr 0x8000BA000 pattern 0xAAAAAAAA write ok read ok
-block 187 addr 0x8000BB000 pattern 0x55555555 write ok read ok
-block 187 addr 0x8000BB000 pattern 0xAAAAAAAA write ok read ok
-block 188 addr 0x8000BC000 pattern 0x55555555 write ok read ok
-block 188 addr 0x8000BC000 pattern 0xAAAAAAAA write ok read ok
-block 189 addr 0x8000BD000 pattern 0x55555555 write ok read ok
-block 189 addr 0x8000BD000 pattern 0xAAAAAAAA write ok read ok
-block 190 addr 0x8000BE000 pattern 0x55555555 write ok read ok
-block 190 addr 0x8000BE000 pattern 0xAAAAAAAA write ok read ok
-block 191 addr 0x8000BF000 pattern 0x55555555 write ok read ok
-block 191 addr 0x8000BF000 pattern 0xAAAAAAAA write ok read ok
-block 192 addr 0x8000C0000 pattern 0x55555555 write ok read ok
-block 192 addr 0x8000C0000 pattern 0xAAAAAAAA write ok read ok
-block 193 addr 0x8000C1000 pattern 0x55555555 write ok read ok
-block 193 addr 0x8000C1000 pattern 0xAAAAAAAA write ok read ok
-block 194 addr 0x8000C2000 pattern 0x55555555 write ok read ok
-block 194 addr 0x8000C2000 pattern 0xAAAAAAAA write ok read ok
-block 195 addr 0x8000C3000 pattern 0x55555555 write ok read ok
-block 195 addr 0x8000C3000 pattern 0xAAAAAAAA write ok read ok
-block 196 addr 0x8000C4000 pattern 0x55555555 write ok read ok
-block 196 addr 0x8000C4000 pattern 0xAAAAAAAA write ok read ok
-block 197 addr 0x8000C5000 pattern 0x55555555 write ok read ok
-block 197 addr 0x8000C5000 pattern 0xAAAAAAAA write ok read ok
-block 198 addr 0x8000C6000 pattern 0x55555555 write ok read ok
-block 198 addr 0x8000C6000 pattern 0xAAAAAAAA write ok read ok
-block 199 addr 0x8000C7000 pattern 0x55555555 write ok read ok
-block 199 addr 0x8000C7000 pattern 0xAAAAAAAA write ok read ok
-block 200 addr 0x8000C8000 pattern 0x55555555 write ok read ok
-block 200 addr 0x8000C8000 pattern 0xAAAAAAAA write ok read ok
-block 201 addr 0x8000C9000 pattern 0x55555555 write ok read ok
-block 201 addr 0x8000C9000 pattern 0xAAAAAAAA write ok read ok
-block 202 addr 0x8000CA000 pattern 0x55555555 write ok read ok
-block 202 addr 0x8000CA000 pattern 0xAAAAAAAA write ok read ok
-block 203 addr 0x8000CB000 pattern 0x55555555 write ok read ok
-block 203 addr 0x8000CB000 pattern 0xAAAAAAAA write ok read ok
-block 204 addr 0x8000CC000 pattern 0x55555555 write ok read ok
-block 204 addr 0x8000CC000 pattern 0xAAAAAAAA write ok read ok
-block 205 addr 0x8000CD000 pattern 0x55555555 write ok read ok
-block 205 addr 0x8000CD000 pattern 0xAAAAAAAA write ok read ok
-block 206 addr 0x8000CE000 pattern 0x55555555 write ok read ok
-block 206 addr 0x8000CE000 pattern 0xAAAAAAAA write ok read ok
-block 207 addr 0x8000CF000 pattern 0x55555555 write ok read ok
-block 207 addr 0x8000CF000 pattern 0xAAAAAAAA write ok read ok
-block 208 addr 0x8000D0000 pattern 0x55555555 write ok read ok
-block 208 addr 0x8000D0000 pattern 0xAAAAAAAA write ok read ok
-block 209 addr 0x8000D1000 pattern 0x55555555 write ok read ok
-block 209 addr 0x8000D1000 pattern 0xAAAAAAAA write ok read ok
-block 210 addr 0x8000D2000 pattern 0x55555555 write ok read ok
-block 210 addr 0x8000D2000 pattern 0xAAAAAAAA write ok read ok
-block 211 addr 0x8000D3000 pattern 0x55555555 write ok read ok
-block 211 addr 0x8000D3000 pattern 0xAAAAAAAA write ok read ok
-block 212 addr 0x8000D4000 pattern 0x55555555 write ok read ok
-block 212 addr 0x8000D4000 pattern 0xAAAAAAAA write ok read ok
-block 213 addr 0x8000D5000 pattern 0x55555555 write ok read ok
-block 213 addr 0x8000D5000 pattern 0xAAAAAAAA write ok read ok
-block 214 addr 0x8000D6000 pattern 0x55555555 write ok read ok
-block 214 addr 0x8000D6000 pattern 0xAAAAAAAA write ok read ok
-block 215 addr 0x8000D7000 pattern 0x55555555 write ok read ok
-block 215 addr 0x8000D7000 pattern 0xAAAAAAAA write ok read ok
-block 216 addr 0x8000D8000 pattern 0x55555555 write ok read ok
-block 216 addr 0x8000D8000 pattern 0xAAAAAAAA write ok read ok
-block 217 addr 0x8000D9000 pattern 0x55555555 write ok read ok
-block 217 addr 0x8000D9000 pattern 0xAAAAAAAA write ok read ok
-block 218 addr 0x8000DA000 pattern 0x55555555 write ok read ok
-block 218 addr 0x8000DA000 pattern 0xAAAAAAAA write ok read ok
-block 219 addr 0x8000DB000 pattern 0x55555555 write ok read ok
-block 219 addr 0x8000DB000 pattern 0xAAAAAAAA write ok read ok
-block 220 addr 0x8000DC000 pattern 0x55555555 write ok read ok
-block 220 addr 0x8000DC000 pattern 0xAAAAAAAA write ok read ok
-block 221 addr 0x8000DD000 pattern 0x55555555 write ok read ok
-block 221 addr 0x8000DD000 pattern 0xAAAAAAAA write ok read ok
-block 222 addr 0x8000DE000 pattern 0x55555555 write ok read ok
-block 222 addr 0x8000DE000 pattern 0xAAAAAAAA write ok read ok
-block 223 addr 0x8000DF000 pattern 0x55555555 write ok read ok
-block 223 addr 0x8000DF000 pattern 0xAAAAAAAA write ok read ok
-block 224 addr 0x8000E0000 pattern 0x55555555 write ok read ok
-block 224 addr 0x8000E0000 pattern 0xAAAAAAAA write ok read ok
-block 225 addr 0x8000E1000 pattern 0x55555555 write ok read ok
-block 225 addr 0x8000E1000 pattern 0xAAAAAAAA write ok read ok
-block 226 addr 0x8000E2000 pattern 0x55555555 write ok read ok
-block 226 addr 0x8000E2000 pattern 0xAAAAAAAA write ok read ok
-block 227 addr 0x8000E3000 pattern 0x55555555 write ok read ok
-block 227 addr 0x8000E3000 pattern 0xAAAAAAAA write ok read ok
-block 228 addr 0x8000E4000 pattern 0x55555555 write ok read ok
-block 228 addr 0x8000E4000 pattern 0xAAAAAAAA write ok read ok
-block 229 addr 0x8000E5000 pattern 0x55555555 write ok read ok
-block 229 addr 0x8000E5000 pattern 0xAAAAAAAA write ok read ok
-block 230 addr 0x8000E6000 pattern 0x55555555 write ok read ok
-block 230 addr 0x8000E6000 pattern 0xAAAAAAAA write ok read ok
-block 231 addr 0x8000E7000 pattern 0x55555555 write ok read ok
-block 231 addr 0x8000E7000 pattern 0xAAAAAAAA write ok read ok
-block 232 addr 0x8000E8000 pattern 0x55555555 write ok read ok
-block 232 addr 0x8000E8000 pattern 0xAAAAAAAA write ok read ok
-block 233 addr 0x8000E9000 pattern 0x55555555 write ok read ok
-block 233 addr 0x8000E9000 pattern 0xAAAAAAAA write ok read ok
-block 234 addr 0x8000EA000 pattern 0x55555555 write ok read ok
-block 234 addr 0x8000EA000 pattern 0xAAAAAAAA write ok read ok
-block 235 addr 0x8000EB000 pattern 0x55555555 write ok read ok
-block 235 addr 0x8000EB000 pattern 0xAAAAAAAA write ok read ok
-block 236 addr 0x8000EC000 pattern 0x55555555 write ok read ok
-block 236 addr 0x8000EC000 pattern 0xAAAAAAAA write ok read ok
-block 237 addr 0x8000ED000 pattern 0x55555555 write ok read ok
-block 237 addr 0x8000ED000 pattern 0xAAAAAAAA write ok read ok
-block 238 addr 0x8000EE000 pattern 0x55555555 write ok read ok
-block 238 addr 0x8000EE000 pattern 0xAAAAAAAA write ok read ok
-block 239 addr 0x8000EF000 pattern 0x55555555 write ok read ok
-block 239 addr 0x8000EF000 pattern 0xAAAAAAAA write ok read ok
-block 240 addr 0x8000F0000 pattern 0x55555555 write ok read ok
-block 240 addr 0x8000F0000 pattern 0xAAAAAAAA write ok read ok
-block 241 addr 0x8000F1000 pattern 0x55555555 write ok read ok
-block 241 addr 0x8000F1000 pattern 0xAAAAAAAA write ok read ok
-block 242 addr 0x8000F2000 pattern 0x55555555 write ok read ok
-block 242 addr 0x8000F2000 pattern 0xAAAAAAAA write ok read ok
-block 243 addr 0x8000F3000 pattern 0x55555555 write ok read ok
-block 243 addr 0x8000F3000 pattern 0xAAAAAAAA write ok read ok
-block 244 addr 0x8000F4000 pattern 0x55555555 write ok read ok
-block 244 addr 0x8000F4000 pattern 0xAAAAAAAA write ok read ok
-block 245 addr 0x8000F5000 pattern 0x55555555 write ok read ok
-block 245 addr 0x8000F5000 pattern 0xAAAAAAAA write ok read ok
-block 246 addr 0x8000F6000 pattern 0x55555555 write ok read ok
-block 246 addr 0x8000F6000 pattern 0xAAAAAAAA write ok read ok
-block 247 addr 0x8000F7000 pattern 0x55555555 write ok read ok
-block 247 addr 0x8000F7000 pattern 0xAAAAAAAA write ok read ok
-block 248 addr 0x8000F8000 pattern 0x55555555 write ok read ok
-block 248 addr 0x8000F8000 pattern 0xAAAAAAAA write ok read ok
-block 249 addr 0x8000F9000 pattern 0x55555555 write ok read ok
-block 249 addr 0x8000F9000 pattern 0xAAAAAAAA write ok read ok
-block 250 addr 0x8000FA000 pattern 0x55555555 write ok read ok
-block 250 addr 0x8000FA000 pattern 0xAAAAAAAA write ok read ok
-block 251 addr 0x8000FB000 pattern 0x55555555 write ok read ok
-block 251 addr 0x8000FB000 pattern 0xAAAAAAAA write ok read ok
-block 252 addr 0x8000FC000 pattern 0x55555555 write ok read ok
-block 252 addr 0x8000FC000 pattern 0xAAAAAAAA write ok read ok
-block 253 addr 0x8000FD000 pattern 0x55555555 write ok read ok
-block 253 addr 0x8000FD000 pattern 0xAAAAAAAA write ok read ok
-block 254 addr 0x8000FE000 pattern 0x55555555 write ok read ok
-block 254 addr 0x8000FE000 pattern 0xAAAAAAAA write ok read ok
-block 255 addr 0x8000FF000 pattern 0x55555555 write ok read ok
-block 255 addr 0x8000FF000 pattern 0xAAAAAAAA write ok read ok
-testmemory --1MB: Passed
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
 INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 7', 'baseband --off',
 replace('
 baseband --off', char(10), char(13, 10)) || char(13) || replace('
@@ -6954,6 +4293,66 @@ replace('
 buckcheck 5', char(10), char(13, 10)) || char(13) || replace('
 buckcheck starting, please wait
 buck5 target 1060 mV measured 1052.023 mV PASS
+[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
+'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 7', 'BUTTONCNT --DQE',
+replace('
+BUTTONCNT --DQE', char(10), char(13, 10)) || char(13) || replace('
+Button count test running, results on the device screen
+Send /q to quit
+[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
+'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 7', 'Help',
+replace('
+Help', char(10), char(13, 10)) || char(13) || replace('
+Available commands (type <command> --help for options):
+  accel          diagnostics command accel: run, read or control the accel block of the board
+  als            diagnostics command als: run, read or control the als block of the board
+  audio          diagnostics command audio: run, read or control the audio block of the board
+  baseband       diagnostics command baseband: run, read or control the baseband block of the board
+  battery        diagnostics command battery: run, read or control the battery block of the board
+  bl             diagnostics command bl: run, read or control the bl block of the board
+  bluetooth      diagnostics command bluetooth: run, read or control the bluetooth block of the board
+  buck           diagnostics command buck: run, read or control the buck block of the board
+  buckcheck      diagnostics command buckcheck: run, read or control the buckcheck block of the board
+  buttoncnt      diagnostics command buttoncnt: run, read or control the buttoncnt block of the board
+  camisp         diagnostics command camisp: run, read or control the camisp block of the board
+  charge         diagnostics command charge: run, read or control the charge block of the board
+  compass        diagnostics command compass: run, read or control the compass block of the board
+  consoleinit    diagnostics command consoleinit: run, read or control the consoleinit block of the board
+  device         diagnostics command device: run, read or control the device block of the board
+  diags          diagnostics command diags: run, read or control the diags block of the board
+  display        diagnostics command display: run, read or control the display block of the board
+  dock           diagnostics command dock: run, read or control the dock block of the board
+  exit           diagnostics command exit: run, read or control the exit block of the board
+  gps            diagnostics command gps: run, read or control the gps block of the board
+  gyro           diagnostics command gyro: run, read or control the gyro block of the board
+  help           diagnostics command help: run, read or control the help block of the board
+  hydra          diagnostics command hydra: run, read or control the hydra block of the board
+  i2c            diagnostics command i2c: run, read or control the i2c block of the board
+  mic            diagnostics command mic: run, read or control the mic block of the board
+  nand           diagnostics command nand: run, read or control the nand block of the board
+  nandsize       diagnostics command nandsize: run, read or control the nandsize block of the board
+  nanduid        diagnostics command nanduid: run, read or control the nanduid block of the board
+  pmuadc         diagnostics command pmuadc: run, read or control the pmuadc block of the board
+  pmureg         diagnostics command pmureg: run, read or control the pmureg block of the board
+  prox           diagnostics command prox: run, read or control the prox block of the board
+  reset          diagnostics command reset: run, read or control the reset block of the board
+  rtc            diagnostics command rtc: run, read or control the rtc block of the board
+  sensor         diagnostics command sensor: run, read or control the sensor block of the board
+  shutdown       diagnostics command shutdown: run, read or control the shutdown block of the board
+  smokey         diagnostics command smokey: run, read or control the smokey block of the board
+  soc            diagnostics command soc: run, read or control the soc block of the board
+  speaker        diagnostics command speaker: run, read or control the speaker block of the board
+  syscfg         diagnostics command syscfg: run, read or control the syscfg block of the board
+  temp           diagnostics command temp: run, read or control the temp block of the board
+  testmemory     diagnostics command testmemory: run, read or control the testmemory block of the board
+  touch          diagnostics command touch: run, read or control the touch block of the board
+  tristar        diagnostics command tristar: run, read or control the tristar block of the board
+  usb            diagnostics command usb: run, read or control the usb block of the board
+  version        diagnostics command version: run, read or control the version block of the board
+  vibrator       diagnostics command vibrator: run, read or control the vibrator block of the board
+  wifi           diagnostics command wifi: run, read or control the wifi block of the board
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
 INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 7', 'i2c -s 0',
@@ -7106,6 +4505,12 @@ tigris vdd : 3818.355 mV
 tigris die_temp : 31.25 C
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 7', 'Reset',
+replace('
+Reset', char(10), char(13, 10)) || char(13) || replace('
+Resetting device...
+[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
+'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
 INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 7', 'syscfg list',
 replace('
 syscfg list', char(10), char(13, 10)) || char(13) || replace('
@@ -7198,9 +4603,9 @@ memory test random       Passed
 testmemory: Passed
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 7', 'testmemory --1MB',
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 7', 'TESTMEMORY --1MB',
 replace('
-testmemory --1MB', char(10), char(13, 10)) || char(13) || replace('
+TESTMEMORY --1MB', char(10), char(13, 10)) || char(13) || replace('
 testmemory 1MB read/write, 256 blocks of 4 KiB
 block   0 addr 0x800000000 pattern 0x55555555 write ok read ok
 block   0 addr 0x800000000 pattern 0xAAAAAAAA write ok read ok
@@ -7814,591 +5219,6 @@ replace('
 Button count test ended
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 7 Plus', 'BUTTONCNT --DQE',
-replace('
-BUTTONCNT --DQE', char(10), char(13, 10)) || char(13) || replace('
-Button count test running, results on the device screen
-Send /q to quit
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 7 Plus', 'Help',
-replace('
-Help', char(10), char(13, 10)) || char(13) || replace('
-Available commands (type <command> --help for options):
-  accel          diagnostics command accel: run, read or control the accel block of the board
-  als            diagnostics command als: run, read or control the als block of the board
-  audio          diagnostics command audio: run, read or control the audio block of the board
-  baseband       diagnostics command baseband: run, read or control the baseband block of the board
-  battery        diagnostics command battery: run, read or control the battery block of the board
-  bl             diagnostics command bl: run, read or control the bl block of the board
-  bluetooth      diagnostics command bluetooth: run, read or control the bluetooth block of the board
-  buck           diagnostics command buck: run, read or control the buck block of the board
-  buckcheck      diagnostics command buckcheck: run, read or control the buckcheck block of the board
-  buttoncnt      diagnostics command buttoncnt: run, read or control the buttoncnt block of the board
-  camisp         diagnostics command camisp: run, read or control the camisp block of the board
-  charge         diagnostics command charge: run, read or control the charge block of the board
-  compass        diagnostics command compass: run, read or control the compass block of the board
-  consoleinit    diagnostics command consoleinit: run, read or control the consoleinit block of the board
-  device         diagnostics command device: run, read or control the device block of the board
-  diags          diagnostics command diags: run, read or control the diags block of the board
-  display        diagnostics command display: run, read or control the display block of the board
-  dock           diagnostics command dock: run, read or control the dock block of the board
-  exit           diagnostics command exit: run, read or control the exit block of the board
-  gps            diagnostics command gps: run, read or control the gps block of the board
-  gyro           diagnostics command gyro: run, read or control the gyro block of the board
-  help           diagnostics command help: run, read or control the help block of the board
-  hydra          diagnostics command hydra: run, read or control the hydra block of the board
-  i2c            diagnostics command i2c: run, read or control the i2c block of the board
-  mic            diagnostics command mic: run, read or control the mic block of the board
-  nand           diagnostics command nand: run, read or control the nand block of the board
-  nandsize       diagnostics command nandsize: run, read or control the nandsize block of the board
-  nanduid        diagnostics command nanduid: run, read or control the nanduid block of the board
-  pmuadc         diagnostics command pmuadc: run, read or control the pmuadc block of the board
-  pmureg         diagnostics command pmureg: run, read or control the pmureg block of the board
-  prox           diagnostics command prox: run, read or control the prox block of the board
-  reset          diagnostics command reset: run, read or control the reset block of the board
-  rtc            diagnostics command rtc: run, read or control the rtc block of the board
-  sensor         diagnostics command sensor: run, read or control the sensor block of the board
-  shutdown       diagnostics command shutdown: run, read or control the shutdown block of the board
-  smokey         diagnostics command smokey: run, read or control the smokey block of the board
-  soc            diagnostics command soc: run, read or control the soc block of the board
-  speaker        diagnostics command speaker: run, read or control the speaker block of the board
-  syscfg         diagnostics command syscfg: run, read or control the syscfg block of the board
-  temp           diagnostics command temp: run, read or control the temp block of the board
-  testmemory     diagnostics command testmemory: run, read or control the testmemory block of the board
-  touch          diagnostics command touch: run, read or control the touch block of the board
-  tristar        diagnostics command tristar: run, read or control the tristar block of the board
-  usb            diagnostics command usb: run, read or control the usb block of the board
-  version        diagnostics command version: run, read or control the version block of the board
-  vibrator       diagnostics command vibrator: run, read or control the vibrator block of the board
-  wifi           diagnostics command wifi: run, read or control the wifi block of the board
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 7 Plus', 'Reset',
-replace('
-Reset', char(10), char(13, 10)) || char(13) || replace('
-Resetting device...
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 7 Plus', 'TESTMEMORY --1MB',
-replace('
-TESTMEMORY --1MB', char(10), char(13, 10)) || char(13) || replace('
-testmemory 1MB read/write, 256 blocks of 4 KiB
-block   0 addr 0x800000000 pattern 0x55555555 write ok read ok
-block   0 addr 0x800000000 pattern 0xAAAAAAAA write ok read ok
-block   1 addr 0x800001000 pattern 0x55555555 write ok read ok
-block   1 addr 0x800001000 pattern 0xAAAAAAAA write ok read ok
-block   2 addr 0x800002000 pattern 0x55555555 write ok read ok
-block   2 addr 0x800002000 pattern 0xAAAAAAAA write ok read ok
-block   3 addr 0x800003000 pattern 0x55555555 write ok read ok
-block   3 addr 0x800003000 pattern 0xAAAAAAAA write ok read ok
-block   4 addr 0x800004000 pattern 0x55555555 write ok read ok
-block   4 addr 0x800004000 pattern 0xAAAAAAAA write ok read ok
-block   5 addr 0x800005000 pattern 0x55555555 write ok read ok
-block   5 addr 0x800005000 pattern 0xAAAAAAAA write ok read ok
-block   6 addr 0x800006000 pattern 0x55555555 write ok read ok
-block   6 addr 0x800006000 pattern 0xAAAAAAAA write ok read ok
-block   7 addr 0x800007000 pattern 0x55555555 write ok read ok
-block   7 addr 0x800007000 pattern 0xAAAAAAAA write ok read ok
-block   8 addr 0x800008000 pattern 0x55555555 write ok read ok
-block   8 addr 0x800008000 pattern 0xAAAAAAAA write ok read ok
-block   9 addr 0x800009000 pattern 0x55555555 write ok read ok
-block   9 addr 0x800009000 pattern 0xAAAAAAAA write ok read ok
-block  10 addr 0x80000A000 pattern 0x55555555 write ok read ok
-block  10 addr 0x80000A000 pattern 0xAAAAAAAA write ok read ok
-block  11 addr 0x80000B000 pattern 0x55555555 write ok read ok
-block  11 addr 0x80000B000 pattern 0xAAAAAAAA write ok read ok
-block  12 addr 0x80000C000 pattern 0x55555555 write ok read ok
-block  12 addr 0x80000C000 pattern 0xAAAAAAAA write ok read ok
-block  13 addr 0x80000D000 pattern 0x55555555 write ok read ok
-block  13 addr 0x80000D000 pattern 0xAAAAAAAA write ok read ok
-block  14 addr 0x80000E000 pattern 0x55555555 write ok read ok
-block  14 addr 0x80000E000 pattern 0xAAAAAAAA write ok read ok
-block  15 addr 0x80000F000 pattern 0x55555555 write ok read ok
-block  15 addr 0x80000F000 pattern 0xAAAAAAAA write ok read ok
-block  16 addr 0x800010000 pattern 0x55555555 write ok read ok
-block  16 addr 0x800010000 pattern 0xAAAAAAAA write ok read ok
-block  17 addr 0x800011000 pattern 0x55555555 write ok read ok
-block  17 addr 0x800011000 pattern 0xAAAAAAAA write ok read ok
-block  18 addr 0x800012000 pattern 0x55555555 write ok read ok
-block  18 addr 0x800012000 pattern 0xAAAAAAAA write ok read ok
-block  19 addr 0x800013000 pattern 0x55555555 write ok read ok
-block  19 addr 0x800013000 pattern 0xAAAAAAAA write ok read ok
-block  20 addr 0x800014000 pattern 0x55555555 write ok read ok
-block  20 addr 0x800014000 pattern 0xAAAAAAAA write ok read ok
-block  21 addr 0x800015000 pattern 0x55555555 write ok read ok
-block  21 addr 0x800015000 pattern 0xAAAAAAAA write ok read ok
-block  22 addr 0x800016000 pattern 0x55555555 write ok read ok
-block  22 addr 0x800016000 pattern 0xAAAAAAAA write ok read ok
-block  23 addr 0x800017000 pattern 0x55555555 write ok read ok
-block  23 addr 0x800017000 pattern 0xAAAAAAAA write ok read ok
-block  24 addr 0x800018000 pattern 0x55555555 write ok read ok
-block  24 addr 0x800018000 pattern 0xAAAAAAAA write ok read ok
-block  25 addr 0x800019000 pattern 0x55555555 write ok read ok
-block  25 addr 0x800019000 pattern 0xAAAAAAAA write ok read ok
-block  26 addr 0x80001A000 pattern 0x55555555 write ok read ok
-block  26 addr 0x80001A000 pattern 0xAAAAAAAA write ok read ok
-block  27 addr 0x80001B000 pattern 0x55555555 write ok read ok
-block  27 addr 0x80001B000 pattern 0xAAAAAAAA write ok read ok
-block  28 addr 0x80001C000 pattern 0x55555555 write ok read ok
-block  28 addr 0x80001C000 pattern 0xAAAAAAAA write ok read ok
-block  29 addr 0x80001D000 pattern 0x55555555 write ok read ok
-block  29 addr 0x80001D000 pattern 0xAAAAAAAA write ok read ok
-block  30 addr 0x80001E000 pattern 0x55555555 write ok read ok
-block  30 addr 0x80001E000 pattern 0xAAAAAAAA write ok read ok
-block  31 addr 0x80001F000 pattern 0x55555555 write ok read ok
-block  31 addr 0x80001F000 pattern 0xAAAAAAAA write ok read ok
-block  32 addr 0x800020000 pattern 0x55555555 write ok read ok
-block  32 addr 0x800020000 pattern 0xAAAAAAAA write ok read ok
-block  33 addr 0x800021000 pattern 0x55555555 write ok read ok
-block  33 addr 0x800021000 pattern 0xAAAAAAAA write ok read ok
-block  34 addr 0x800022000 pattern 0x55555555 write ok read ok
-block  34 addr 0x800022000 pattern 0xAAAAAAAA write ok read ok
-block  35 addr 0x800023000 pattern 0x55555555 write ok read ok
-block  35 addr 0x800023000 pattern 0xAAAAAAAA write ok read ok
-block  36 addr 0x800024000 pattern 0x55555555 write ok read ok
-block  36 addr 0x800024000 pattern 0xAAAAAAAA write ok read ok
-block  37 addr 0x800025000 pattern 0x55555555 write ok read ok
-block  37 addr 0x800025000 pattern 0xAAAAAAAA write ok read ok
-block  38 addr 0x800026000 pattern 0x55555555 write ok read ok
-block  38 addr 0x800026000 pattern 0xAAAAAAAA write ok read ok
-block  39 addr 0x800027000 pattern 0x55555555 write ok read ok
-block  39 addr 0x800027000 pattern 0xAAAAAAAA write ok read ok
-block  40 addr 0x800028000 pattern 0x55555555 write ok read ok
-block  40 addr 0x800028000 pattern 0xAAAAAAAA write ok read ok
-block  41 addr 0x800029000 pattern 0x55555555 write ok read ok
-block  41 addr 0x800029000 pattern 0xAAAAAAAA write ok read ok
-block  42 addr 0x80002A000 pattern 0x55555555 write ok read ok
-block  42 addr 0x80002A000 pattern 0xAAAAAAAA write ok read ok
-block  43 addr 0x80002B000 pattern 0x55555555 write ok read ok
-block  43 addr 0x80002B000 pattern 0xAAAAAAAA write ok read ok
-block  44 addr 0x80002C000 pattern 0x55555555 write ok read ok
-block  44 addr 0x80002C000 pattern 0xAAAAAAAA write ok read ok
-block  45 addr 0x80002D000 pattern 0x55555555 write ok read ok
-block  45 addr 0x80002D000 pattern 0xAAAAAAAA write ok read ok
-block  46 addr 0x80002E000 pattern 0x55555555 write ok read ok
-block  46 addr 0x80002E000 pattern 0xAAAAAAAA write ok read ok
-block  47 addr 0x80002F000 pattern 0x55555555 write ok read ok
-block  47 addr 0x80002F000 pattern 0xAAAAAAAA write ok read ok
-block  48 addr 0x800030000 pattern 0x55555555 write ok read ok
-block  48 addr 0x800030000 pattern 0xAAAAAAAA write ok read ok
-block  49 addr 0x800031000 pattern 0x55555555 write ok read ok
-block  49 addr 0x800031000 pattern 0xAAAAAAAA write ok read ok
-block  50 addr 0x800032000 pattern 0x55555555 write ok read ok
-block  50 addr 0x800032000 pattern 0xAAAAAAAA write ok read ok
-block  51 addr 0x800033000 pattern 0x55555555 write ok read ok
-block  51 addr 0x800033000 pattern 0xAAAAAAAA write ok read ok
-block  52 addr 0x800034000 pattern 0x55555555 write ok read ok
-block  52 addr 0x800034000 pattern 0xAAAAAAAA write ok read ok
-block  53 addr 0x800035000 pattern 0x55555555 write ok read ok
-block  53 addr 0x800035000 pattern 0xAAAAAAAA write ok read ok
-block  54 addr 0x800036000 pattern 0x55555555 write ok read ok
-block  54 addr 0x800036000 pattern 0xAAAAAAAA write ok read ok
-block  55 addr 0x800037000 pattern 0x55555555 write ok read ok
-block  55 addr 0x800037000 pattern 0xAAAAAAAA write ok read ok
-block  56 addr 0x800038000 pattern 0x55555555 write ok read ok
-block  56 addr 0x800038000 pattern 0xAAAAAAAA write ok read ok
-block  57 addr 0x800039000 pattern 0x55555555 write ok read ok
-block  57 addr 0x800039000 pattern 0xAAAAAAAA write ok read ok
-block  58 addr 0x80003A000 pattern 0x55555555 write ok read ok
-block  58 addr 0x80003A000 pattern 0xAAAAAAAA write ok read ok
-block  59 addr 0x80003B000 pattern 0x55555555 write ok read ok
-block  59 addr 0x80003B000 pattern 0xAAAAAAAA write ok read ok
-block  60 addr 0x80003C000 pattern 0x55555555 write ok read ok
-block  60 addr 0x80003C000 pattern 0xAAAAAAAA write ok read ok
-block  61 addr 0x80003D000 pattern 0x55555555 write ok read ok
-block  61 addr 0x80003D000 pattern 0xAAAAAAAA write ok read ok
-block  62 addr 0x80003E000 pattern 0x55555555 write ok read ok
-block  62 addr 0x80003E000 pattern 0xAAAAAAAA write ok read ok
-block  63 addr 0x80003F000 pattern 0x55555555 write ok read ok
-block  63 addr 0x80003F000 pattern 0xAAAAAAAA write ok read ok
-block  64 addr 0x800040000 pattern 0x55555555 write ok read ok
-block  64 addr 0x800040000 pattern 0xAAAAAAAA write ok read ok
-block  65 addr 0x800041000 pattern 0x55555555 write ok read ok
-block  65 addr 0x800041000 pattern 0xAAAAAAAA write ok read ok
-block  66 addr 0x800042000 pattern 0x55555555 write ok read ok
-block  66 addr 0x800042000 pattern 0xAAAAAAAA write ok read ok
-block  67 addr 0x800043000 pattern 0x55555555 write ok read ok
-block  67 addr 0x800043000 pattern 0xAAAAAAAA write ok read ok
-block  68 addr 0x800044000 pattern 0x55555555 write ok read ok
-block  68 addr 0x800044000 pattern 0xAAAAAAAA write ok read ok
-block  69 addr 0x800045000 pattern 0x55555555 write ok read ok
-block  69 addr 0x800045000 pattern 0xAAAAAAAA write ok read ok
-block  70 addr 0x800046000 pattern 0x55555555 write ok read ok
-block  70 addr 0x800046000 pattern 0xAAAAAAAA write ok read ok
-block  71 addr 0x800047000 pattern 0x55555555 write ok read ok
-block  71 addr 0x800047000 pattern 0xAAAAAAAA write ok read ok
-block  72 addr 0x800048000 pattern 0x55555555 write ok read ok
-block  72 addr 0x800048000 pattern 0xAAAAAAAA write ok read ok
-block  73 addr 0x800049000 pattern 0x55555555 write ok read ok
-block  73 addr 0x800049000 pattern 0xAAAAAAAA write ok read ok
-block  74 addr 0x80004A000 pattern 0x55555555 write ok read ok
-block  74 addr 0x80004A000 pattern 0xAAAAAAAA write ok read ok
-block  75 addr 0x80004B000 pattern 0x55555555 write ok read ok
-block  75 addr 0x80004B000 pattern 0xAAAAAAAA write ok read ok
-block  76 addr 0x80004C000 pattern 0x55555555 write ok read ok
-block  76 addr 0x80004C000 pattern 0xAAAAAAAA write ok read ok
-block  77 addr 0x80004D000 pattern 0x55555555 write ok read ok
-block  77 addr 0x80004D000 pattern 0xAAAAAAAA write ok read ok
-block  78 addr 0x80004E000 pattern 0x55555555 write ok read ok
-block  78 addr 0x80004E000 pattern 0xAAAAAAAA write ok read ok
-block  79 addr 0x80004F000 pattern 0x55555555 write ok read ok
-block  79 addr 0x80004F000 pattern 0xAAAAAAAA write ok read ok
-block  80 addr 0x800050000 pattern 0x55555555 write ok read ok
-block  80 addr 0x800050000 pattern 0xAAAAAAAA write ok read ok
-block  81 addr 0x800051000 pattern 0x55555555 write ok read ok
-block  81 addr 0x800051000 pattern 0xAAAAAAAA write ok read ok
-block  82 addr 0x800052000 pattern 0x55555555 write ok read ok
-block  82 addr 0x800052000 pattern 0xAAAAAAAA write ok read ok
-block  83 addr 0x800053000 pattern 0x55555555 write ok read ok
-block  83 addr 0x800053000 pattern 0xAAAAAAAA write ok read ok
-block  84 addr 0x800054000 pattern 0x55555555 write ok read ok
-block  84 addr 0x800054000 pattern 0xAAAAAAAA write ok read ok
-block  85 addr 0x800055000 pattern 0x55555555 write ok read ok
-block  85 addr 0x800055000 pattern 0xAAAAAAAA write ok read ok
-block  86 addr 0x800056000 pattern 0x55555555 write ok read ok
-block  86 addr 0x800056000 pattern 0xAAAAAAAA write ok read ok
-block  87 addr 0x800057000 pattern 0x55555555 write ok read ok
-block  87 addr 0x800057000 pattern 0xAAAAAAAA write ok read ok
-block  88 addr 0x800058000 pattern 0x55555555 write ok read ok
-block  88 addr 0x800058000 pattern 0xAAAAAAAA write ok read ok
-block  89 addr 0x800059000 pattern 0x55555555 write ok read ok
-block  89 addr 0x800059000 pattern 0xAAAAAAAA write ok read ok
-block  90 addr 0x80005A000 pattern 0x55555555 write ok read ok
-block  90 addr 0x80005A000 pattern 0xAAAAAAAA write ok read ok
-block  91 addr 0x80005B000 pattern 0x55555555 write ok read ok
-block  91 addr 0x80005B000 pattern 0xAAAAAAAA write ok read ok
-block  92 addr 0x80005C000 pattern 0x55555555 write ok read ok
-block  92 addr 0x80005C000 pattern 0xAAAAAAAA write ok read ok
-block  93 addr 0x80005D000 pattern 0x55555555 write ok read ok
-block  93 addr 0x80005D000 pattern 0xAAAAAAAA write ok read ok
-block  94 addr 0x80005E000 pattern 0x55555555 write ok read ok
-block  94 addr 0x80005E000 pattern 0xAAAAAAAA write ok read ok
-block  95 addr 0x80005F000 pattern 0x55555555 write ok read ok
-block  95 addr 0x80005F000 pattern 0xAAAAAAAA write ok read ok
-block  96 addr 0x800060000 pattern 0x55555555 write ok read ok
-block  96 addr 0x800060000 pattern 0xAAAAAAAA write ok read ok
-block  97 addr 0x800061000 pattern 0x55555555 write ok read ok
-block  97 addr 0x800061000 pattern 0xAAAAAAAA write ok read ok
-block  98 addr 0x800062000 pattern 0x55555555 write ok read ok
-block  98 addr 0x800062000 pattern 0xAAAAAAAA write ok read ok
-block  99 addr 0x800063000 pattern 0x55555555 write ok read ok
-block  99 addr 0x800063000 pattern 0xAAAAAAAA write ok read ok
-block 100 addr 0x800064000 pattern 0x55555555 write ok read ok
-block 100 addr 0x800064000 pattern 0xAAAAAAAA write ok read ok
-block 101 addr 0x800065000 pattern 0x55555555 write ok read ok
-block 101 addr 0x800065000 pattern 0xAAAAAAAA write ok read ok
-block 102 addr 0x800066000 pattern 0x55555555 write ok read ok
-block 102 addr 0x800066000 pattern 0xAAAAAAAA write ok read ok
-block 103 addr 0x800067000 pattern 0x55555555 write ok read ok
-block 103 addr 0x800067000 pattern 0xAAAAAAAA write ok read ok
-block 104 addr 0x800068000 pattern 0x55555555 write ok read ok
-block 104 addr 0x800068000 pattern 0xAAAAAAAA write ok read ok
-block 105 addr 0x800069000 pattern 0x55555555 write ok read ok
-block 105 addr 0x800069000 pattern 0xAAAAAAAA write ok read ok
-block 106 addr 0x80006A000 pattern 0x55555555 write ok read ok
-block 106 addr 0x80006A000 pattern 0xAAAAAAAA write ok read ok
-block 107 addr 0x80006B000 pattern 0x55555555 write ok read ok
-block 107 addr 0x80006B000 pattern 0xAAAAAAAA write ok read ok
-block 108 addr 0x80006C000 pattern 0x55555555 write ok read ok
-block 108 addr 0x80006C000 pattern 0xAAAAAAAA write ok read ok
-block 109 addr 0x80006D000 pattern 0x55555555 write ok read ok
-block 109 addr 0x80006D000 pattern 0xAAAAAAAA write ok read ok
-block 110 addr 0x80006E000 pattern 0x55555555 write ok read ok
-block 110 addr 0x80006E000 pattern 0xAAAAAAAA write ok read ok
-block 111 addr 0x80006F000 pattern 0x55555555 write ok read ok
-block 111 addr 0x80006F000 pattern 0xAAAAAAAA write ok read ok
-block 112 addr 0x800070000 pattern 0x55555555 write ok read ok
-block 112 addr 0x800070000 pattern 0xAAAAAAAA write ok read ok
-block 113 addr 0x800071000 pattern 0x55555555 write ok read ok
-block 113 addr 0x800071000 pattern 0xAAAAAAAA write ok read ok
-block 114 addr 0x800072000 pattern 0x55555555 write ok read ok
-block 114 addr 0x800072000 pattern 0xAAAAAAAA write ok read ok
-block 115 addr 0x800073000 pattern 0x55555555 write ok read ok
-block 115 addr 0x800073000 pattern 0xAAAAAAAA write ok read ok
-block 116 addr 0x800074000 pattern 0x55555555 write ok read ok
-block 116 addr 0x800074000 pattern 0xAAAAAAAA write ok read ok
-block 117 addr 0x800075000 pattern 0x55555555 write ok read ok
-block 117 addr 0x800075000 pattern 0xAAAAAAAA write ok read ok
-block 118 addr 0x800076000 pattern 0x55555555 write ok read ok
-block 118 addr 0x800076000 pattern 0xAAAAAAAA write ok read ok
-block 119 addr 0x800077000 pattern 0x55555555 write ok read ok
-block 119 addr 0x800077000 pattern 0xAAAAAAAA write ok read ok
-block 120 addr 0x800078000 pattern 0x55555555 write ok read ok
-block 120 addr 0x800078000 pattern 0xAAAAAAAA write ok read ok
-block 121 addr 0x800079000 pattern 0x55555555 write ok read ok
-block 121 addr 0x800079000 pattern 0xAAAAAAAA write ok read ok
-block 122 addr 0x80007A000 pattern 0x55555555 write ok read ok
-block 122 addr 0x80007A000 pattern 0xAAAAAAAA write ok read ok
-block 123 addr 0x80007B000 pattern 0x55555555 write ok read ok
-block 123 addr 0x80007B000 pattern 0xAAAAAAAA write ok read ok
-block 124 addr 0x80007C000 pattern 0x55555555 write ok read ok
-block 124 addr 0x80007C000 pattern 0xAAAAAAAA write ok read ok
-block 125 addr 0x80007D000 pattern 0x55555555 write ok read ok
-block 125 addr 0x80007D000 pattern 0xAAAAAAAA write ok read ok
-block 126 addr 0x80007E000 pattern 0x55555555 write ok read ok
-block 126 addr 0x80007E000 pattern 0xAAAAAAAA write ok read ok
-block 127 addr 0x80007F000 pattern 0x55555555 write ok read ok
-block 127 addr 0x80007F000 pattern 0xAAAAAAAA write ok read ok
-block 128 addr 0x800080000 pattern 0x55555555 write ok read ok
-block 128 addr 0x800080000 pattern 0xAAAAAAAA write ok read ok
-block 129 addr 0x800081000 pattern 0x55555555 write ok read ok
-block 129 addr 0x800081000 pattern 0xAAAAAAAA write ok read ok
-block 130 addr 0x800082000 pattern 0x55555555 write ok read ok
-block 130 addr 0x800082000 pattern 0xAAAAAAAA write ok read ok
-block 131 addr 0x800083000 pattern 0x55555555 write ok read ok
-block 131 addr 0x800083000 pattern 0xAAAAAAAA write ok read ok
-block 132 addr 0x800084000 pattern 0x55555555 write ok read ok
-block 132 addr 0x800084000 pattern 0xAAAAAAAA write ok read ok
-block 133 addr 0x800085000 pattern 0x55555555 write ok read ok
-block 133 addr 0x800085000 pattern 0xAAAAAAAA write ok read ok
-block 134 addr 0x800086000 pattern 0x55555555 write ok read ok
-block 134 addr 0x800086000 pattern 0xAAAAAAAA write ok read ok
-block 135 addr 0x800087000 pattern 0x55555555 write ok read ok
-block 135 addr 0x800087000 pattern 0xAAAAAAAA write ok read ok
-block 136 addr 0x800088000 pattern 0x55555555 write ok read ok
-block 136 addr 0x800088000 pattern 0xAAAAAAAA write ok read ok
-block 137 addr 0x800089000 pattern 0x55555555 write ok read ok
-block 137 addr 0x800089000 pattern 0xAAAAAAAA write ok read ok
-block 138 addr 0x80008A000 pattern 0x55555555 write ok read ok
-block 138 addr 0x80008A000 pattern 0xAAAAAAAA write ok read ok
-block 139 addr 0x80008B000 pattern 0x55555555 write ok read ok
-block 139 addr 0x80008B000 pattern 0xAAAAAAAA write ok read ok
-block 140 addr 0x80008C000 pattern 0x55555555 write ok read ok
-block 140 addr 0x80008C000 pattern 0xAAAAAAAA write ok read ok
-block 141 addr 0x80008D000 pattern 0x55555555 write ok read ok
-block 141 addr 0x80008D000 pattern 0xAAAAAAAA write ok read ok
-block 142 addr 0x80008E000 pattern 0x55555555 write ok read ok
-block 142 addr 0x80008E000 pattern 0xAAAAAAAA write ok read ok
-block 143 addr 0x80008F000 pattern 0x55555555 write ok read ok
-block 143 addr 0x80008F000 pattern 0xAAAAAAAA write ok read ok
-block 144 addr 0x800090000 pattern 0x55555555 write ok read ok
-block 144 addr 0x800090000 pattern 0xAAAAAAAA write ok read ok
-block 145 addr 0x800091000 pattern 0x55555555 write ok read ok
-block 145 addr 0x800091000 pattern 0xAAAAAAAA write ok read ok
-block 146 addr 0x800092000 pattern 0x55555555 write ok read ok
-block 146 addr 0x800092000 pattern 0xAAAAAAAA write ok read ok
-block 147 addr 0x800093000 pattern 0x55555555 write ok read ok
-block 147 addr 0x800093000 pattern 0xAAAAAAAA write ok read ok
-block 148 addr 0x800094000 pattern 0x55555555 write ok read ok
-block 148 addr 0x800094000 pattern 0xAAAAAAAA write ok read ok
-block 149 addr 0x800095000 pattern 0x55555555 write ok read ok
-block 149 addr 0x800095000 pattern 0xAAAAAAAA write ok read ok
-block 150 addr 0x800096000 pattern 0x55555555 write ok read ok
-block 150 addr 0x800096000 pattern 0xAAAAAAAA write ok read ok
-block 151 addr 0x800097000 pattern 0x55555555 write ok read ok
-block 151 addr 0x800097000 pattern 0xAAAAAAAA write ok read ok
-block 152 addr 0x800098000 pattern 0x55555555 write ok read ok
-block 152 addr 0x800098000 pattern 0xAAAAAAAA write ok read ok
-block 153 addr 0x800099000 pattern 0x55555555 write ok read ok
-block 153 addr 0x800099000 pattern 0xAAAAAAAA write ok read ok
-block 154 addr 0x80009A000 pattern 0x55555555 write ok read ok
-block 154 addr 0x80009A000 pattern 0xAAAAAAAA write ok read ok
-block 155 addr 0x80009B000 pattern 0x55555555 write ok read ok
-block 155 addr 0x80009B000 pattern 0xAAAAAAAA write ok read ok
-block 156 addr 0x80009C000 pattern 0x55555555 write ok read ok
-block 156 addr 0x80009C000 pattern 0xAAAAAAAA write ok read ok
-block 157 addr 0x80009D000 pattern 0x55555555 write ok read ok
-block 157 addr 0x80009D000 pattern 0xAAAAAAAA write ok read ok
-block 158 addr 0x80009E000 pattern 0x55555555 write ok read ok
-block 158 addr 0x80009E000 pattern 0xAAAAAAAA write ok read ok
-block 159 addr 0x80009F000 pattern 0x55555555 write ok read ok
-block 159 addr 0x80009F000 pattern 0xAAAAAAAA write ok read ok
-block 160 addr 0x8000A0000 pattern 0x55555555 write ok read ok
-block 160 addr 0x8000A0000 pattern 0xAAAAAAAA write ok read ok
-block 161 addr 0x8000A1000 pattern 0x55555555 write ok read ok
-block 161 addr 0x8000A1000 pattern 0xAAAAAAAA write ok read ok
-block 162 addr 0x8000A2000 pattern 0x55555555 write ok read ok
-block 162 addr 0x8000A2000 pattern 0xAAAAAAAA write ok read ok
-block 163 addr 0x8000A3000 pattern 0x55555555 write ok read ok
-block 163 addr 0x8000A3000 pattern 0xAAAAAAAA write ok read ok
-block 164 addr 0x8000A4000 pattern 0x55555555 write ok read ok
-block 164 addr 0x8000A4000 pattern 0xAAAAAAAA write ok read ok
-block 165 addr 0x8000A5000 pattern 0x55555555 write ok read ok
-block 165 addr 0x8000A5000 pattern 0xAAAAAAAA write ok read ok
-block 166 addr 0x8000A6000 pattern 0x55555555 write ok read ok
-block 166 addr 0x8000A6000 pattern 0xAAAAAAAA write ok read ok
-block 167 addr 0x8000A7000 pattern 0x55555555 write ok read ok
-block 167 addr 0x8000A7000 pattern 0xAAAAAAAA write ok read ok
-block 168 addr 0x8000A8000 pattern 0x55555555 write ok read ok
-block 168 addr 0x8000A8000 pattern 0xAAAAAAAA write ok read ok
-block 169 addr 0x8000A9000 pattern 0x55555555 write ok read ok
-block 169 addr 0x8000A9000 pattern 0xAAAAAAAA write ok read ok
-block 170 addr 0x8000AA000 pattern 0x55555555 write ok read ok
-block 170 addr 0x8000AA000 pattern 0xAAAAAAAA write ok read ok
-block 171 addr 0x8000AB000 pattern 0x55555555 write ok read ok
-block 171 addr 0x8000AB000 pattern 0xAAAAAAAA write ok read ok
-block 172 addr 0x8000AC000 pattern 0x55555555 write ok read ok
-block 172 addr 0x8000AC000 pattern 0xAAAAAAAA write ok read ok
-block 173 addr 0x8000AD000 pattern 0x55555555 write ok read ok
-block 173 addr 0x8000AD000 pattern 0xAAAAAAAA write ok read ok
-block 174 addr 0x8000AE000 pattern 0x55555555 write ok read ok
-block 174 addr 0x8000AE000 pattern 0xAAAAAAAA write ok read ok
-block 175 addr 0x8000AF000 pattern 0x55555555 write ok read ok
-block 175 addr 0x8000AF000 pattern 0xAAAAAAAA write ok read ok
-block 176 addr 0x8000B0000 pattern 0x55555555 write ok read ok
-block 176 addr 0x8000B0000 pattern 0xAAAAAAAA write ok read ok
-block 177 addr 0x8000B1000 pattern 0x55555555 write ok read ok
-block 177 addr 0x8000B1000 pattern 0xAAAAAAAA write ok read ok
-block 178 addr 0x8000B2000 pattern 0x55555555 write ok read ok
-block 178 addr 0x8000B2000 pattern 0xAAAAAAAA write ok read ok
-block 179 addr 0x8000B3000 pattern 0x55555555 write ok read ok
-block 179 addr 0x8000B3000 pattern 0xAAAAAAAA write ok read ok
-block 180 addr 0x8000B4000 pattern 0x55555555 write ok read ok
-block 180 addr 0x8000B4000 pattern 0xAAAAAAAA write ok read ok
-block 181 addr 0x8000B5000 pattern 0x55555555 write ok read ok
-block 181 addr 0x8000B5000 pattern 0xAAAAAAAA write ok read ok
-block 182 addr 0x8000B6000 pattern 0x55555555 write ok read ok
-block 182 addr 0x8000B6000 pattern 0xAAAAAAAA write ok read ok
-block 183 addr 0x8000B7000 pattern 0x55555555 write ok read ok
-block 183 addr 0x8000B7000 pattern 0xAAAAAAAA write ok read ok
-block 184 addr 0x8000B8000 pattern 0x55555555 write ok read ok
-block 184 addr 0x8000B8000 pattern 0xAAAAAAAA write ok read ok
-block 185 addr 0x8000B9000 pattern 0x55555555 write ok read ok
-block 185 addr 0x8000B9000 pattern 0xAAAAAAAA write ok read ok
-block 186 addr 0x8000BA000 pattern 0x55555555 write ok read ok
-block 186 addr 0x8000BA000 pattern 0xAAAAAAAA write ok read ok
-block 187 addr 0x8000BB000 pattern 0x55555555 write ok read ok
-block 187 addr 0x8000BB000 pattern 0xAAAAAAAA write ok read ok
-block 188 addr 0x8000BC000 pattern 0x55555555 write ok read ok
-block 188 addr 0x8000BC000 pattern 0xAAAAAAAA write ok read ok
-block 189 addr 0x8000BD000 pattern 0x55555555 write ok read ok
-block 189 addr 0x8000BD000 pattern 0xAAAAAAAA write ok read ok
-block 190 addr 0x8000BE000 pattern 0x55555555 write ok read ok
-block 190 addr 0x8000BE000 pattern 0xAAAAAAAA write ok read ok
-block 191 addr 0x8000BF000 pattern 0x55555555 write ok read ok
-block 191 addr 0x8000BF000 pattern 0xAAAAAAAA write ok read ok
-block 192 addr 0x8000C0000 pattern 0x55555555 write ok read ok
-block 192 addr 0x8000C0000 pattern 0xAAAAAAAA write ok read ok
-block 193 addr 0x8000C1000 pattern 0x55555555 write ok read ok
-block 193 addr 0x8000C1000 pattern 0xAAAAAAAA write ok read ok
-block 194 addr 0x8000C2000 pattern 0x55555555 write ok read ok
-block 194 addr 0x8000C2000 pattern 0xAAAAAAAA write ok read ok
-block 195 addr 0x8000C3000 pattern 0x55555555 write ok read ok
-block 195 addr 0x8000C3000 pattern 0xAAAAAAAA write ok read ok
-block 196 addr 0x8000C4000 pattern 0x55555555 write ok read ok
-block 196 addr 0x8000C4000 pattern 0xAAAAAAAA write ok read ok
-block 197 addr 0x8000C5000 pattern 0x55555555 write ok read ok
-block 197 addr 0x8000C5000 pattern 0xAAAAAAAA write ok read ok
-block 198 addr 0x8000C6000 pattern 0x55555555 write ok read ok
-block 198 addr 0x8000C6000 pattern 0xAAAAAAAA write ok read ok
-block 199 addr 0x8000C7000 pattern 0x55555555 write ok read ok
-block 199 addr 0x8000C7000 pattern 0xAAAAAAAA write ok read ok
-block 200 addr 0x8000C8000 pattern 0x55555555 write ok read ok
-block 200 addr 0x8000C8000 pattern 0xAAAAAAAA write ok read ok
-block 201 addr 0x8000C9000 pattern 0x55555555 write ok read ok
-block 201 addr 0x8000C9000 pattern 0xAAAAAAAA write ok read ok
-block 202 addr 0x8000CA000 pattern 0x55555555 write ok read ok
-block 202 addr 0x8000CA000 pattern 0xAAAAAAAA write ok read ok
-block 203 addr 0x8000CB000 pattern 0x55555555 write ok read ok
-block 203 addr 0x8000CB000 pattern 0xAAAAAAAA write ok read ok
-block 204 addr 0x8000CC000 pattern 0x55555555 write ok read ok
-block 204 addr 0x8000CC000 pattern 0xAAAAAAAA write ok read ok
-block 205 addr 0x8000CD000 pattern 0x55555555 write ok read ok
-block 205 addr 0x8000CD000 pattern 0xAAAAAAAA write ok read ok
-block 206 addr 0x8000CE000 pattern 0x55555555 write ok read ok
-block 206 addr 0x8000CE000 pattern 0xAAAAAAAA write ok read ok
-block 207 addr 0x8000CF000 pattern 0x55555555 write ok read ok
-block 207 addr 0x8000CF000 pattern 0xAAAAAAAA write ok read ok
-block 208 addr 0x8000D0000 pattern 0x55555555 write ok read ok
-block 208 addr 0x8000D0000 pattern 0xAAAAAAAA write ok read ok
-block 209 addr 0x8000D1000 pattern 0x55555555 write ok read ok
-block 209 addr 0x8000D1000 pattern 0xAAAAAAAA write ok read ok
-block 210 addr 0x8000D2000 pattern 0x55555555 write ok read ok
-block 210 addr 0x8000D2000 pattern 0xAAAAAAAA write ok read ok
-block 211 addr 0x8000D3000 pattern 0x55555555 write ok read ok
-block 211 addr 0x8000D3000 pattern 0xAAAAAAAA write ok read ok
-block 212 addr 0x8000D4000 pattern 0x55555555 write ok read ok
-block 212 addr 0x8000D4000 pattern 0xAAAAAAAA write ok read ok
-block 213 addr 0x8000D5000 pattern 0x55555555 write ok read ok
-block 213 addr 0x8000D5000 pattern 0xAAAAAAAA write ok read ok
-block 214 addr 0x8000D6000 pattern 0x55555555 write ok read ok
-block 214 addr 0x8000D6000 pattern 0xAAAAAAAA write ok read ok
-block 215 addr 0x8000D7000 pattern 0x55555555 write ok read ok
-block 215 addr 0x8000D7000 pattern 0xAAAAAAAA write ok read ok
-block 216 addr 0x8000D8000 pattern 0x55555555 write ok read ok
-block 216 addr 0x8000D8000 pattern 0xAAAAAAAA write ok read ok
-block 217 addr 0x8000D9000 pattern 0x55555555 write ok read ok
-block 217 addr 0x8000D9000 pattern 0xAAAAAAAA write ok read ok
-block 218 addr 0x8000DA000 pattern 0x55555555 write ok read ok
-block 218 addr 0x8000DA000 pattern 0xAAAAAAAA write ok read ok
-block 219 addr 0x8000DB000 pattern 0x55555555 write ok read ok
-block 219 addr 0x8000DB000 pattern 0xAAAAAAAA write ok read ok
-block 220 addr 0x8000DC000 pattern 0x55555555 write ok read ok
-block 220 addr 0x8000DC000 pattern 0xAAAAAAAA write ok read ok
-block 221 addr 0x8000DD000 pattern 0x55555555 write ok read ok
-block 221 addr 0x8000DD000 pattern 0xAAAAAAAA write ok read ok
-block 222 addr 0x8000DE000 pattern 0x55555555 write ok read ok
-block 222 addr 0x8000DE000 pattern 0xAAAAAAAA write ok read ok
-block 223 addr 0x8000DF000 pattern 0x55555555 write ok read ok
-block 223 addr 0x8000DF000 pattern 0xAAAAAAAA write ok read ok
-block 224 addr 0x8000E0000 pattern 0x55555555 write ok read ok
-block 224 addr 0x8000E0000 pattern 0xAAAAAAAA write ok read ok
-block 225 addr 0x8000E1000 pattern 0x55555555 write ok read ok
-block 225 addr 0x8000E1000 pattern 0xAAAAAAAA write ok read ok
-block 226 addr 0x8000E2000 pattern 0x55555555 write ok read ok
-block 226 addr 0x8000E2000 pattern 0xAAAAAAAA write ok read ok
-block 227 addr 0x8000E3000 pattern 0x55555555 write ok read ok
-block 227 addr 0x8000E3000 pattern 0xAAAAAAAA write ok read ok
-block 228 addr 0x8000E4000 pattern 0x55555555 write ok read ok
-block 228 addr 0x8000E4000 pattern 0xAAAAAAAA write ok read ok
-block 229 addr 0x8000E5000 pattern 0x55555555 write ok read ok
-block 229 addr 0x8000E5000 pattern 0xAAAAAAAA write ok read ok
-block 230 addr 0x8000E6000 pattern 0x55555555 write ok read ok
-block 230 addr 0x8000E6000 pattern 0xAAAAAAAA write ok read ok
-block 231 addr 0x8000E7000 pattern 0x55555555 write ok read ok
-block 231 addr 0x8000E7000 pattern 0xAAAAAAAA write ok read ok
-block 232 addr 0x8000E8000 pattern 0x55555555 write ok read ok
-block 232 addr 0x8000E8000 pattern 0xAAAAAAAA write ok read ok
-block 233 addr 0x8000E9000 pattern 0x55555555 write ok read ok
-block 233 addr 0x8000E9000 pattern 0xAAAAAAAA write ok read ok
-block 234 addr 0x8000EA000 pattern 0x55555555 write ok read ok
-block 234 addr 0x8000EA000 pattern 0xAAAAAAAA write ok read ok
-block 235 addr 0x8000EB000 pattern 0x55555555 write ok read ok
-block 235 addr 0x8000EB000 pattern 0xAAAAAAAA write ok read ok
-block 236 addr 0x8000EC000 pattern 0x55555555 write ok read ok
-block 236 addr 0x8000EC000 pattern 0xAAAAAAAA write ok read ok
-block 237 addr 0x8000ED000 pattern 0x55555555 write ok read ok
-block 237 addr 0x8000ED000 pattern 0xAAAAAAAA write ok read ok
-block 238 addr 0x8000EE000 pattern 0x55555555 write ok read ok
-block 238 addr 0x8000EE000 pattern 0xAAAAAAAA write ok read ok
-block 239 addr 0x8000EF000 pattern 0x55555555 write ok read ok
-block 239 addr 0x8000EF000 pattern 0xAAAAAAAA write ok read ok
-block 240 addr 0x8000F0000 pattern 0x55555555 write ok read ok
-block 240 addr 0x8000F0000 pattern 0xAAAAAAAA write ok read ok
-block 241 addr 0x8000F1000 pattern 0x55555555 write ok read ok
-block 241 addr 0x8000F1000 pattern 0xAAAAAAAA write ok read ok
-block 242 addr 0x8000F2000 pattern 0x55555555 write ok read ok
-block 242 addr 0x8000F2000 pattern 0xAAAAAAAA write ok read ok
-block 243 addr 0x8000F3000 pattern 0x55555555 write ok read ok
-block 243 addr 0x8000F3000 pattern 0xAAAAAAAA write ok read ok
-block 244 addr 0x8000F4000 pattern 0x55555555 write ok read ok
-block 244 addr 0x8000F4000 pattern 0xAAAAAAAA write ok read ok
-block 245 addr 0x8000F5000 pattern 0x55555555 write ok read ok
-block 245 addr 0x8000F5000 pattern 0xAAAAAAAA write ok read ok
-block 246 addr 0x8000F6000 pattern 0x55555555 write ok read ok
-block 246 addr 0x8000F6000 pattern 0xAAAAAAAA write ok read ok
-block 247 addr 0x8000F7000 pattern 0x55555555 write ok read ok
-block 247 addr 0x8000F7000 pattern 0xAAAAAAAA write ok read ok
-block 248 addr 0x8000F8000 pattern 0x55555555 write ok read ok
-block 248 addr 0x8000F8000 pattern 0xAAAAAAAA write ok read ok
-block 249 addr 0x8000F9000 pattern 0x55555555 write ok read ok
-block 249 addr 0x8000F9000 pattern 0xAAAAAAAA write ok read ok
-block 250 addr 0x8000FA000 pattern 0x55555555 write ok read ok
-block 250 addr 0x8000FA000 pattern 0xAAAAAAAA write ok read ok
-block 251 addr 0x8000FB000 pattern 0x55555555 write ok read ok
-block 251 addr 0x8000FB000 pattern 0xAAAAAAAA write ok read ok
-block 252 addr 0x8000FC000 pattern 0x55555555 write ok read ok
-block 252 addr 0x8000FC000 pattern 0xAAAAAAAA write ok read ok
-block 253 addr 0x8000FD000 pattern 0x55555555 write ok read ok
-block 253 addr 0x8000FD000 pattern 0xAAAAAAAA write ok read ok
-block 254 addr 0x8000FE000 pattern 0x55555555 write ok read ok
-block 254 addr 0x8000FE000 pattern 0xAAAAAAAA write ok read ok
-block 255 addr 0x8000FF000 pattern 0x55555555 write ok read ok
-block 255 addr 0x8000FF000 pattern 0xAAAAAAAA write ok read ok
-testmemory --1MB: Passed
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
 INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 7 Plus', 'baseband --off',
 replace('
 baseband --off', char(10), char(13, 10)) || char(13) || replace('
@@ -8524,6 +5344,66 @@ replace('
 buckcheck 5', char(10), char(13, 10)) || char(13) || replace('
 buckcheck starting, please wait
 buck5 target 1060 mV measured 1053.100 mV PASS
+[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
+'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 7 Plus', 'BUTTONCNT --DQE',
+replace('
+BUTTONCNT --DQE', char(10), char(13, 10)) || char(13) || replace('
+Button count test running, results on the device screen
+Send /q to quit
+[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
+'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 7 Plus', 'Help',
+replace('
+Help', char(10), char(13, 10)) || char(13) || replace('
+Available commands (type <command> --help for options):
+  accel          diagnostics command accel: run, read or control the accel block of the board
+  als            diagnostics command als: run, read or control the als block of the board
+  audio          diagnostics command audio: run, read or control the audio block of the board
+  baseband       diagnostics command baseband: run, read or control the baseband block of the board
+  battery        diagnostics command battery: run, read or control the battery block of the board
+  bl             diagnostics command bl: run, read or control the bl block of the board
+  bluetooth      diagnostics command bluetooth: run, read or control the bluetooth block of the board
+  buck           diagnostics command buck: run, read or control the buck block of the board
+  buckcheck      diagnostics command buckcheck: run, read or control the buckcheck block of the board
+  buttoncnt      diagnostics command buttoncnt: run, read or control the buttoncnt block of the board
+  camisp         diagnostics command camisp: run, read or control the camisp block of the board
+  charge         diagnostics command charge: run, read or control the charge block of the board
+  compass        diagnostics command compass: run, read or control the compass block of the board
+  consoleinit    diagnostics command consoleinit: run, read or control the consoleinit block of the board
+  device         diagnostics command device: run, read or control the device block of the board
+  diags          diagnostics command diags: run, read or control the diags block of the board
+  display        diagnostics command display: run, read or control the display block of the board
+  dock           diagnostics command dock: run, read or control the dock block of the board
+  exit           diagnostics command exit: run, read or control the exit block of the board
+  gps            diagnostics command gps: run, read or control the gps block of the board
+  gyro           diagnostics command gyro: run, read or control the gyro block of the board
+  help           diagnostics command help: run, read or control the help block of the board
+  hydra          diagnostics command hydra: run, read or control the hydra block of the board
+  i2c            diagnostics command i2c: run, read or control the i2c block of the board
+  mic            diagnostics command mic: run, read or control the mic block of the board
+  nand           diagnostics command nand: run, read or control the nand block of the board
+  nandsize       diagnostics command nandsize: run, read or control the nandsize block of the board
+  nanduid        diagnostics command nanduid: run, read or control the nanduid block of the board
+  pmuadc         diagnostics command pmuadc: run, read or control the pmuadc block of the board
+  pmureg         diagnostics command pmureg: run, read or control the pmureg block of the board
+  prox           diagnostics command prox: run, read or control the prox block of the board
+  reset          diagnostics command reset: run, read or control the reset block of the board
+  rtc            diagnostics command rtc: run, read or control the rtc block of the board
+  sensor         diagnostics command sensor: run, read or control the sensor block of the board
+  shutdown       diagnostics command shutdown: run, read or control the shutdown block of the board
+  smokey         diagnostics command smokey: run, read or control the smokey block of the board
+  soc            diagnostics command soc: run, read or control the soc block of the board
+  speaker        diagnostics command speaker: run, read or control the speaker block of the board
+  syscfg         diagnostics command syscfg: run, read or control the syscfg block of the board
+  temp           diagnostics command temp: run, read or control the temp block of the board
+  testmemory     diagnostics command testmemory: run, read or control the testmemory block of the board
+  touch          diagnostics command touch: run, read or control the touch block of the board
+  tristar        diagnostics command tristar: run, read or control the tristar block of the board
+  usb            diagnostics command usb: run, read or control the usb block of the board
+  version        diagnostics command version: run, read or control the version block of the board
+  vibrator       diagnostics command vibrator: run, read or control the vibrator block of the board
+  wifi           diagnostics command wifi: run, read or control the wifi block of the board
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
 INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 7 Plus', 'i2c -s 0',
@@ -8676,6 +5556,12 @@ tigris vdd : 3763.671 mV
 tigris die_temp : 31.25 C
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 7 Plus', 'Reset',
+replace('
+Reset', char(10), char(13, 10)) || char(13) || replace('
+Resetting device...
+[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
+'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
 INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 7 Plus', 'syscfg list',
 replace('
 syscfg list', char(10), char(13, 10)) || char(13) || replace('
@@ -8768,9 +5654,9 @@ memory test random       Passed
 testmemory: Passed
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 7 Plus', 'testmemory --1MB',
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 7 Plus', 'TESTMEMORY --1MB',
 replace('
-testmemory --1MB', char(10), char(13, 10)) || char(13) || replace('
+TESTMEMORY --1MB', char(10), char(13, 10)) || char(13) || replace('
 testmemory 1MB read/write, 256 blocks of 4 KiB
 block   0 addr 0x800000000 pattern 0x55555555 write ok read ok
 block   0 addr 0x800000000 pattern 0xAAAAAAAA write ok read ok
@@ -9384,591 +6270,6 @@ replace('
 Button count test ended
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 8', 'BUTTONCNT --DQE',
-replace('
-BUTTONCNT --DQE', char(10), char(13, 10)) || char(13) || replace('
-Button count test running, results on the device screen
-Send /q to quit
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 8', 'Help',
-replace('
-Help', char(10), char(13, 10)) || char(13) || replace('
-Available commands (type <command> --help for options):
-  accel          diagnostics command accel: run, read or control the accel block of the board
-  als            diagnostics command als: run, read or control the als block of the board
-  audio          diagnostics command audio: run, read or control the audio block of the board
-  baseband       diagnostics command baseband: run, read or control the baseband block of the board
-  battery        diagnostics command battery: run, read or control the battery block of the board
-  bl             diagnostics command bl: run, read or control the bl block of the board
-  bluetooth      diagnostics command bluetooth: run, read or control the bluetooth block of the board
-  buck           diagnostics command buck: run, read or control the buck block of the board
-  buckcheck      diagnostics command buckcheck: run, read or control the buckcheck block of the board
-  buttoncnt      diagnostics command buttoncnt: run, read or control the buttoncnt block of the board
-  camisp         diagnostics command camisp: run, read or control the camisp block of the board
-  charge         diagnostics command charge: run, read or control the charge block of the board
-  compass        diagnostics command compass: run, read or control the compass block of the board
-  consoleinit    diagnostics command consoleinit: run, read or control the consoleinit block of the board
-  device         diagnostics command device: run, read or control the device block of the board
-  diags          diagnostics command diags: run, read or control the diags block of the board
-  display        diagnostics command display: run, read or control the display block of the board
-  dock           diagnostics command dock: run, read or control the dock block of the board
-  exit           diagnostics command exit: run, read or control the exit block of the board
-  gps            diagnostics command gps: run, read or control the gps block of the board
-  gyro           diagnostics command gyro: run, read or control the gyro block of the board
-  help           diagnostics command help: run, read or control the help block of the board
-  hydra          diagnostics command hydra: run, read or control the hydra block of the board
-  i2c            diagnostics command i2c: run, read or control the i2c block of the board
-  mic            diagnostics command mic: run, read or control the mic block of the board
-  nand           diagnostics command nand: run, read or control the nand block of the board
-  nandsize       diagnostics command nandsize: run, read or control the nandsize block of the board
-  nanduid        diagnostics command nanduid: run, read or control the nanduid block of the board
-  pmuadc         diagnostics command pmuadc: run, read or control the pmuadc block of the board
-  pmureg         diagnostics command pmureg: run, read or control the pmureg block of the board
-  prox           diagnostics command prox: run, read or control the prox block of the board
-  reset          diagnostics command reset: run, read or control the reset block of the board
-  rtc            diagnostics command rtc: run, read or control the rtc block of the board
-  sensor         diagnostics command sensor: run, read or control the sensor block of the board
-  shutdown       diagnostics command shutdown: run, read or control the shutdown block of the board
-  smokey         diagnostics command smokey: run, read or control the smokey block of the board
-  soc            diagnostics command soc: run, read or control the soc block of the board
-  speaker        diagnostics command speaker: run, read or control the speaker block of the board
-  syscfg         diagnostics command syscfg: run, read or control the syscfg block of the board
-  temp           diagnostics command temp: run, read or control the temp block of the board
-  testmemory     diagnostics command testmemory: run, read or control the testmemory block of the board
-  touch          diagnostics command touch: run, read or control the touch block of the board
-  tristar        diagnostics command tristar: run, read or control the tristar block of the board
-  usb            diagnostics command usb: run, read or control the usb block of the board
-  version        diagnostics command version: run, read or control the version block of the board
-  vibrator       diagnostics command vibrator: run, read or control the vibrator block of the board
-  wifi           diagnostics command wifi: run, read or control the wifi block of the board
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 8', 'Reset',
-replace('
-Reset', char(10), char(13, 10)) || char(13) || replace('
-Resetting device...
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 8', 'TESTMEMORY --1MB',
-replace('
-TESTMEMORY --1MB', char(10), char(13, 10)) || char(13) || replace('
-testmemory 1MB read/write, 256 blocks of 4 KiB
-block   0 addr 0x800000000 pattern 0x55555555 write ok read ok
-block   0 addr 0x800000000 pattern 0xAAAAAAAA write ok read ok
-block   1 addr 0x800001000 pattern 0x55555555 write ok read ok
-block   1 addr 0x800001000 pattern 0xAAAAAAAA write ok read ok
-block   2 addr 0x800002000 pattern 0x55555555 write ok read ok
-block   2 addr 0x800002000 pattern 0xAAAAAAAA write ok read ok
-block   3 addr 0x800003000 pattern 0x55555555 write ok read ok
-block   3 addr 0x800003000 pattern 0xAAAAAAAA write ok read ok
-block   4 addr 0x800004000 pattern 0x55555555 write ok read ok
-block   4 addr 0x800004000 pattern 0xAAAAAAAA write ok read ok
-block   5 addr 0x800005000 pattern 0x55555555 write ok read ok
-block   5 addr 0x800005000 pattern 0xAAAAAAAA write ok read ok
-block   6 addr 0x800006000 pattern 0x55555555 write ok read ok
-block   6 addr 0x800006000 pattern 0xAAAAAAAA write ok read ok
-block   7 addr 0x800007000 pattern 0x55555555 write ok read ok
-block   7 addr 0x800007000 pattern 0xAAAAAAAA write ok read ok
-block   8 addr 0x800008000 pattern 0x55555555 write ok read ok
-block   8 addr 0x800008000 pattern 0xAAAAAAAA write ok read ok
-block   9 addr 0x800009000 pattern 0x55555555 write ok read ok
-block   9 addr 0x800009000 pattern 0xAAAAAAAA write ok read ok
-block  10 addr 0x80000A000 pattern 0x55555555 write ok read ok
-block  10 addr 0x80000A000 pattern 0xAAAAAAAA write ok read ok
-block  11 addr 0x80000B000 pattern 0x55555555 write ok read ok
-block  11 addr 0x80000B000 pattern 0xAAAAAAAA write ok read ok
-block  12 addr 0x80000C000 pattern 0x55555555 write ok read ok
-block  12 addr 0x80000C000 pattern 0xAAAAAAAA write ok read ok
-block  13 addr 0x80000D000 pattern 0x55555555 write ok read ok
-block  13 addr 0x80000D000 pattern 0xAAAAAAAA write ok read ok
-block  14 addr 0x80000E000 pattern 0x55555555 write ok read ok
-block  14 addr 0x80000E000 pattern 0xAAAAAAAA write ok read ok
-block  15 addr 0x80000F000 pattern 0x55555555 write ok read ok
-block  15 addr 0x80000F000 pattern 0xAAAAAAAA write ok read ok
-block  16 addr 0x800010000 pattern 0x55555555 write ok read ok
-block  16 addr 0x800010000 pattern 0xAAAAAAAA write ok read ok
-block  17 addr 0x800011000 pattern 0x55555555 write ok read ok
-block  17 addr 0x800011000 pattern 0xAAAAAAAA write ok read ok
-block  18 addr 0x800012000 pattern 0x55555555 write ok read ok
-block  18 addr 0x800012000 pattern 0xAAAAAAAA write ok read ok
-block  19 addr 0x800013000 pattern 0x55555555 write ok read ok
-block  19 addr 0x800013000 pattern 0xAAAAAAAA write ok read ok
-block  20 addr 0x800014000 pattern 0x55555555 write ok read ok
-block  20 addr 0x800014000 pattern 0xAAAAAAAA write ok read ok
-block  21 addr 0x800015000 pattern 0x55555555 write ok read ok
-block  21 addr 0x800015000 pattern 0xAAAAAAAA write ok read ok
-block  22 addr 0x800016000 pattern 0x55555555 write ok read ok
-block  22 addr 0x800016000 pattern 0xAAAAAAAA write ok read ok
-block  23 addr 0x800017000 pattern 0x55555555 write ok read ok
-block  23 addr 0x800017000 pattern 0xAAAAAAAA write ok read ok
-block  24 addr 0x800018000 pattern 0x55555555 write ok read ok
-block  24 addr 0x800018000 pattern 0xAAAAAAAA write ok read ok
-block  25 addr 0x800019000 pattern 0x55555555 write ok read ok
-block  25 addr 0x800019000 pattern 0xAAAAAAAA write ok read ok
-block  26 addr 0x80001A000 pattern 0x55555555 write ok read ok
-block  26 addr 0x80001A000 pattern 0xAAAAAAAA write ok read ok
-block  27 addr 0x80001B000 pattern 0x55555555 write ok read ok
-block  27 addr 0x80001B000 pattern 0xAAAAAAAA write ok read ok
-block  28 addr 0x80001C000 pattern 0x55555555 write ok read ok
-block  28 addr 0x80001C000 pattern 0xAAAAAAAA write ok read ok
-block  29 addr 0x80001D000 pattern 0x55555555 write ok read ok
-block  29 addr 0x80001D000 pattern 0xAAAAAAAA write ok read ok
-block  30 addr 0x80001E000 pattern 0x55555555 write ok read ok
-block  30 addr 0x80001E000 pattern 0xAAAAAAAA write ok read ok
-block  31 addr 0x80001F000 pattern 0x55555555 write ok read ok
-block  31 addr 0x80001F000 pattern 0xAAAAAAAA write ok read ok
-block  32 addr 0x800020000 pattern 0x55555555 write ok read ok
-block  32 addr 0x800020000 pattern 0xAAAAAAAA write ok read ok
-block  33 addr 0x800021000 pattern 0x55555555 write ok read ok
-block  33 addr 0x800021000 pattern 0xAAAAAAAA write ok read ok
-block  34 addr 0x800022000 pattern 0x55555555 write ok read ok
-block  34 addr 0x800022000 pattern 0xAAAAAAAA write ok read ok
-block  35 addr 0x800023000 pattern 0x55555555 write ok read ok
-block  35 addr 0x800023000 pattern 0xAAAAAAAA write ok read ok
-block  36 addr 0x800024000 pattern 0x55555555 write ok read ok
-block  36 addr 0x800024000 pattern 0xAAAAAAAA write ok read ok
-block  37 addr 0x800025000 pattern 0x55555555 write ok read ok
-block  37 addr 0x800025000 pattern 0xAAAAAAAA write ok read ok
-block  38 addr 0x800026000 pattern 0x55555555 write ok read ok
-block  38 addr 0x800026000 pattern 0xAAAAAAAA write ok read ok
-block  39 addr 0x800027000 pattern 0x55555555 write ok read ok
-block  39 addr 0x800027000 pattern 0xAAAAAAAA write ok read ok
-block  40 addr 0x800028000 pattern 0x55555555 write ok read ok
-block  40 addr 0x800028000 pattern 0xAAAAAAAA write ok read ok
-block  41 addr 0x800029000 pattern 0x55555555 write ok read ok
-block  41 addr 0x800029000 pattern 0xAAAAAAAA write ok read ok
-block  42 addr 0x80002A000 pattern 0x55555555 write ok read ok
-block  42 addr 0x80002A000 pattern 0xAAAAAAAA write ok read ok
-block  43 addr 0x80002B000 pattern 0x55555555 write ok read ok
-block  43 addr 0x80002B000 pattern 0xAAAAAAAA write ok read ok
-block  44 addr 0x80002C000 pattern 0x55555555 write ok read ok
-block  44 addr 0x80002C000 pattern 0xAAAAAAAA write ok read ok
-block  45 addr 0x80002D000 pattern 0x55555555 write ok read ok
-block  45 addr 0x80002D000 pattern 0xAAAAAAAA write ok read ok
-block  46 addr 0x80002E000 pattern 0x55555555 write ok read ok
-block  46 addr 0x80002E000 pattern 0xAAAAAAAA write ok read ok
-block  47 addr 0x80002F000 pattern 0x55555555 write ok read ok
-block  47 addr 0x80002F000 pattern 0xAAAAAAAA write ok read ok
-block  48 addr 0x800030000 pattern 0x55555555 write ok read ok
-block  48 addr 0x800030000 pattern 0xAAAAAAAA write ok read ok
-block  49 addr 0x800031000 pattern 0x55555555 write ok read ok
-block  49 addr 0x800031000 pattern 0xAAAAAAAA write ok read ok
-block  50 addr 0x800032000 pattern 0x55555555 write ok read ok
-block  50 addr 0x800032000 pattern 0xAAAAAAAA write ok read ok
-block  51 addr 0x800033000 pattern 0x55555555 write ok read ok
-block  51 addr 0x800033000 pattern 0xAAAAAAAA write ok read ok
-block  52 addr 0x800034000 pattern 0x55555555 write ok read ok
-block  52 addr 0x800034000 pattern 0xAAAAAAAA write ok read ok
-block  53 addr 0x800035000 pattern 0x55555555 write ok read ok
-block  53 addr 0x800035000 pattern 0xAAAAAAAA write ok read ok
-block  54 addr 0x800036000 pattern 0x55555555 write ok read ok
-block  54 addr 0x800036000 pattern 0xAAAAAAAA write ok read ok
-block  55 addr 0x800037000 pattern 0x55555555 write ok read ok
-block  55 addr 0x800037000 pattern 0xAAAAAAAA write ok read ok
-block  56 addr 0x800038000 pattern 0x55555555 write ok read ok
-block  56 addr 0x800038000 pattern 0xAAAAAAAA write ok read ok
-block  57 addr 0x800039000 pattern 0x55555555 write ok read ok
-block  57 addr 0x800039000 pattern 0xAAAAAAAA write ok read ok
-block  58 addr 0x80003A000 pattern 0x55555555 write ok read ok
-block  58 addr 0x80003A000 pattern 0xAAAAAAAA write ok read ok
-block  59 addr 0x80003B000 pattern 0x55555555 write ok read ok
-block  59 addr 0x80003B000 pattern 0xAAAAAAAA write ok read ok
-block  60 addr 0x80003C000 pattern 0x55555555 write ok read ok
-block  60 addr 0x80003C000 pattern 0xAAAAAAAA write ok read ok
-block  61 addr 0x80003D000 pattern 0x55555555 write ok read ok
-block  61 addr 0x80003D000 pattern 0xAAAAAAAA write ok read ok
-block  62 addr 0x80003E000 pattern 0x55555555 write ok read ok
-block  62 addr 0x80003E000 pattern 0xAAAAAAAA write ok read ok
-block  63 addr 0x80003F000 pattern 0x55555555 write ok read ok
-block  63 addr 0x80003F000 pattern 0xAAAAAAAA write ok read ok
-block  64 addr 0x800040000 pattern 0x55555555 write ok read ok
-block  64 addr 0x800040000 pattern 0xAAAAAAAA write ok read ok
-block  65 addr 0x800041000 pattern 0x55555555 write ok read ok
-block  65 addr 0x800041000 pattern 0xAAAAAAAA write ok read ok
-block  66 addr 0x800042000 pattern 0x55555555 write ok read ok
-block  66 addr 0x800042000 pattern 0xAAAAAAAA write ok read ok
-block  67 addr 0x800043000 pattern 0x55555555 write ok read ok
-block  67 addr 0x800043000 pattern 0xAAAAAAAA write ok read ok
-block  68 addr 0x800044000 pattern 0x55555555 write ok read ok
-block  68 addr 0x800044000 pattern 0xAAAAAAAA write ok read ok
-block  69 addr 0x800045000 pattern 0x55555555 write ok read ok
-block  69 addr 0x800045000 pattern 0xAAAAAAAA write ok read ok
-block  70 addr 0x800046000 pattern 0x55555555 write ok read ok
-block  70 addr 0x800046000 pattern 0xAAAAAAAA write ok read ok
-block  71 addr 0x800047000 pattern 0x55555555 write ok read ok
-block  71 addr 0x800047000 pattern 0xAAAAAAAA write ok read ok
-block  72 addr 0x800048000 pattern 0x55555555 write ok read ok
-block  72 addr 0x800048000 pattern 0xAAAAAAAA write ok read ok
-block  73 addr 0x800049000 pattern 0x55555555 write ok read ok
-block  73 addr 0x800049000 pattern 0xAAAAAAAA write ok read ok
-block  74 addr 0x80004A000 pattern 0x55555555 write ok read ok
-block  74 addr 0x80004A000 pattern 0xAAAAAAAA write ok read ok
-block  75 addr 0x80004B000 pattern 0x55555555 write ok read ok
-block  75 addr 0x80004B000 pattern 0xAAAAAAAA write ok read ok
-block  76 addr 0x80004C000 pattern 0x55555555 write ok read ok
-block  76 addr 0x80004C000 pattern 0xAAAAAAAA write ok read ok
-block  77 addr 0x80004D000 pattern 0x55555555 write ok read ok
-block  77 addr 0x80004D000 pattern 0xAAAAAAAA write ok read ok
-block  78 addr 0x80004E000 pattern 0x55555555 write ok read ok
-block  78 addr 0x80004E000 pattern 0xAAAAAAAA write ok read ok
-block  79 addr 0x80004F000 pattern 0x55555555 write ok read ok
-block  79 addr 0x80004F000 pattern 0xAAAAAAAA write ok read ok
-block  80 addr 0x800050000 pattern 0x55555555 write ok read ok
-block  80 addr 0x800050000 pattern 0xAAAAAAAA write ok read ok
-block  81 addr 0x800051000 pattern 0x55555555 write ok read ok
-block  81 addr 0x800051000 pattern 0xAAAAAAAA write ok read ok
-block  82 addr 0x800052000 pattern 0x55555555 write ok read ok
-block  82 addr 0x800052000 pattern 0xAAAAAAAA write ok read ok
-block  83 addr 0x800053000 pattern 0x55555555 write ok read ok
-block  83 addr 0x800053000 pattern 0xAAAAAAAA write ok read ok
-block  84 addr 0x800054000 pattern 0x55555555 write ok read ok
-block  84 addr 0x800054000 pattern 0xAAAAAAAA write ok read ok
-block  85 addr 0x800055000 pattern 0x55555555 write ok read ok
-block  85 addr 0x800055000 pattern 0xAAAAAAAA write ok read ok
-block  86 addr 0x800056000 pattern 0x55555555 write ok read ok
-block  86 addr 0x800056000 pattern 0xAAAAAAAA write ok read ok
-block  87 addr 0x800057000 pattern 0x55555555 write ok read ok
-block  87 addr 0x800057000 pattern 0xAAAAAAAA write ok read ok
-block  88 addr 0x800058000 pattern 0x55555555 write ok read ok
-block  88 addr 0x800058000 pattern 0xAAAAAAAA write ok read ok
-block  89 addr 0x800059000 pattern 0x55555555 write ok read ok
-block  89 addr 0x800059000 pattern 0xAAAAAAAA write ok read ok
-block  90 addr 0x80005A000 pattern 0x55555555 write ok read ok
-block  90 addr 0x80005A000 pattern 0xAAAAAAAA write ok read ok
-block  91 addr 0x80005B000 pattern 0x55555555 write ok read ok
-block  91 addr 0x80005B000 pattern 0xAAAAAAAA write ok read ok
-block  92 addr 0x80005C000 pattern 0x55555555 write ok read ok
-block  92 addr 0x80005C000 pattern 0xAAAAAAAA write ok read ok
-block  93 addr 0x80005D000 pattern 0x55555555 write ok read ok
-block  93 addr 0x80005D000 pattern 0xAAAAAAAA write ok read ok
-block  94 addr 0x80005E000 pattern 0x55555555 write ok read ok
-block  94 addr 0x80005E000 pattern 0xAAAAAAAA write ok read ok
-block  95 addr 0x80005F000 pattern 0x55555555 write ok read ok
-block  95 addr 0x80005F000 pattern 0xAAAAAAAA write ok read ok
-block  96 addr 0x800060000 pattern 0x55555555 write ok read ok
-block  96 addr 0x800060000 pattern 0xAAAAAAAA write ok read ok
-block  97 addr 0x800061000 pattern 0x55555555 write ok read ok
-block  97 addr 0x800061000 pattern 0xAAAAAAAA write ok read ok
-block  98 addr 0x800062000 pattern 0x55555555 write ok read ok
-block  98 addr 0x800062000 pattern 0xAAAAAAAA write ok read ok
-block  99 addr 0x800063000 pattern 0x55555555 write ok read ok
-block  99 addr 0x800063000 pattern 0xAAAAAAAA write ok read ok
-block 100 addr 0x800064000 pattern 0x55555555 write ok read ok
-block 100 addr 0x800064000 pattern 0xAAAAAAAA write ok read ok
-block 101 addr 0x800065000 pattern 0x55555555 write ok read ok
-block 101 addr 0x800065000 pattern 0xAAAAAAAA write ok read ok
-block 102 addr 0x800066000 pattern 0x55555555 write ok read ok
-block 102 addr 0x800066000 pattern 0xAAAAAAAA write ok read ok
-block 103 addr 0x800067000 pattern 0x55555555 write ok read ok
-block 103 addr 0x800067000 pattern 0xAAAAAAAA write ok read ok
-block 104 addr 0x800068000 pattern 0x55555555 write ok read ok
-block 104 addr 0x800068000 pattern 0xAAAAAAAA write ok read ok
-block 105 addr 0x800069000 pattern 0x55555555 write ok read ok
-block 105 addr 0x800069000 pattern 0xAAAAAAAA write ok read ok
-block 106 addr 0x80006A000 pattern 0x55555555 write ok read ok
-block 106 addr 0x80006A000 pattern 0xAAAAAAAA write ok read ok
-block 107 addr 0x80006B000 pattern 0x55555555 write ok read ok
-block 107 addr 0x80006B000 pattern 0xAAAAAAAA write ok read ok
-block 108 addr 0x80006C000 pattern 0x55555555 write ok read ok
-block 108 addr 0x80006C000 pattern 0xAAAAAAAA write ok read ok
-block 109 addr 0x80006D000 pattern 0x55555555 write ok read ok
-block 109 addr 0x80006D000 pattern 0xAAAAAAAA write ok read ok
-block 110 addr 0x80006E000 pattern 0x55555555 write ok read ok
-block 110 addr 0x80006E000 pattern 0xAAAAAAAA write ok read ok
-block 111 addr 0x80006F000 pattern 0x55555555 write ok read ok
-block 111 addr 0x80006F000 pattern 0xAAAAAAAA write ok read ok
-block 112 addr 0x800070000 pattern 0x55555555 write ok read ok
-block 112 addr 0x800070000 pattern 0xAAAAAAAA write ok read ok
-block 113 addr 0x800071000 pattern 0x55555555 write ok read ok
-block 113 addr 0x800071000 pattern 0xAAAAAAAA write ok read ok
-block 114 addr 0x800072000 pattern 0x55555555 write ok read ok
-block 114 addr 0x800072000 pattern 0xAAAAAAAA write ok read ok
-block 115 addr 0x800073000 pattern 0x55555555 write ok read ok
-block 115 addr 0x800073000 pattern 0xAAAAAAAA write ok read ok
-block 116 addr 0x800074000 pattern 0x55555555 write ok read ok
-block 116 addr 0x800074000 pattern 0xAAAAAAAA write ok read ok
-block 117 addr 0x800075000 pattern 0x55555555 write ok read ok
-block 117 addr 0x800075000 pattern 0xAAAAAAAA write ok read ok
-block 118 addr 0x800076000 pattern 0x55555555 write ok read ok
-block 118 addr 0x800076000 pattern 0xAAAAAAAA write ok read ok
-block 119 addr 0x800077000 pattern 0x55555555 write ok read ok
-block 119 addr 0x800077000 pattern 0xAAAAAAAA write ok read ok
-block 120 addr 0x800078000 pattern 0x55555555 write ok read ok
-block 120 addr 0x800078000 pattern 0xAAAAAAAA write ok read ok
-block 121 addr 0x800079000 pattern 0x55555555 write ok read ok
-block 121 addr 0x800079000 pattern 0xAAAAAAAA write ok read ok
-block 122 addr 0x80007A000 pattern 0x55555555 write ok read ok
-block 122 addr 0x80007A000 pattern 0xAAAAAAAA write ok read ok
-block 123 addr 0x80007B000 pattern 0x55555555 write ok read ok
-block 123 addr 0x80007B000 pattern 0xAAAAAAAA write ok read ok
-block 124 addr 0x80007C000 pattern 0x55555555 write ok read ok
-block 124 addr 0x80007C000 pattern 0xAAAAAAAA write ok read ok
-block 125 addr 0x80007D000 pattern 0x55555555 write ok read ok
-block 125 addr 0x80007D000 pattern 0xAAAAAAAA write ok read ok
-block 126 addr 0x80007E000 pattern 0x55555555 write ok read ok
-block 126 addr 0x80007E000 pattern 0xAAAAAAAA write ok read ok
-block 127 addr 0x80007F000 pattern 0x55555555 write ok read ok
-block 127 addr 0x80007F000 pattern 0xAAAAAAAA write ok read ok
-block 128 addr 0x800080000 pattern 0x55555555 write ok read ok
-block 128 addr 0x800080000 pattern 0xAAAAAAAA write ok read ok
-block 129 addr 0x800081000 pattern 0x55555555 write ok read ok
-block 129 addr 0x800081000 pattern 0xAAAAAAAA write ok read ok
-block 130 addr 0x800082000 pattern 0x55555555 write ok read ok
-block 130 addr 0x800082000 pattern 0xAAAAAAAA write ok read ok
-block 131 addr 0x800083000 pattern 0x55555555 write ok read ok
-block 131 addr 0x800083000 pattern 0xAAAAAAAA write ok read ok
-block 132 addr 0x800084000 pattern 0x55555555 write ok read ok
-block 132 addr 0x800084000 pattern 0xAAAAAAAA write ok read ok
-block 133 addr 0x800085000 pattern 0x55555555 write ok read ok
-block 133 addr 0x800085000 pattern 0xAAAAAAAA write ok read ok
-block 134 addr 0x800086000 pattern 0x55555555 write ok read ok
-block 134 addr 0x800086000 pattern 0xAAAAAAAA write ok read ok
-block 135 addr 0x800087000 pattern 0x55555555 write ok read ok
-block 135 addr 0x800087000 pattern 0xAAAAAAAA write ok read ok
-block 136 addr 0x800088000 pattern 0x55555555 write ok read ok
-block 136 addr 0x800088000 pattern 0xAAAAAAAA write ok read ok
-block 137 addr 0x800089000 pattern 0x55555555 write ok read ok
-block 137 addr 0x800089000 pattern 0xAAAAAAAA write ok read ok
-block 138 addr 0x80008A000 pattern 0x55555555 write ok read ok
-block 138 addr 0x80008A000 pattern 0xAAAAAAAA write ok read ok
-block 139 addr 0x80008B000 pattern 0x55555555 write ok read ok
-block 139 addr 0x80008B000 pattern 0xAAAAAAAA write ok read ok
-block 140 addr 0x80008C000 pattern 0x55555555 write ok read ok
-block 140 addr 0x80008C000 pattern 0xAAAAAAAA write ok read ok
-block 141 addr 0x80008D000 pattern 0x55555555 write ok read ok
-block 141 addr 0x80008D000 pattern 0xAAAAAAAA write ok read ok
-block 142 addr 0x80008E000 pattern 0x55555555 write ok read ok
-block 142 addr 0x80008E000 pattern 0xAAAAAAAA write ok read ok
-block 143 addr 0x80008F000 pattern 0x55555555 write ok read ok
-block 143 addr 0x80008F000 pattern 0xAAAAAAAA write ok read ok
-block 144 addr 0x800090000 pattern 0x55555555 write ok read ok
-block 144 addr 0x800090000 pattern 0xAAAAAAAA write ok read ok
-block 145 addr 0x800091000 pattern 0x55555555 write ok read ok
-block 145 addr 0x800091000 pattern 0xAAAAAAAA write ok read ok
-block 146 addr 0x800092000 pattern 0x55555555 write ok read ok
-block 146 addr 0x800092000 pattern 0xAAAAAAAA write ok read ok
-block 147 addr 0x800093000 pattern 0x55555555 write ok read ok
-block 147 addr 0x800093000 pattern 0xAAAAAAAA write ok read ok
-block 148 addr 0x800094000 pattern 0x55555555 write ok read ok
-block 148 addr 0x800094000 pattern 0xAAAAAAAA write ok read ok
-block 149 addr 0x800095000 pattern 0x55555555 write ok read ok
-block 149 addr 0x800095000 pattern 0xAAAAAAAA write ok read ok
-block 150 addr 0x800096000 pattern 0x55555555 write ok read ok
-block 150 addr 0x800096000 pattern 0xAAAAAAAA write ok read ok
-block 151 addr 0x800097000 pattern 0x55555555 write ok read ok
-block 151 addr 0x800097000 pattern 0xAAAAAAAA write ok read ok
-block 152 addr 0x800098000 pattern 0x55555555 write ok read ok
-block 152 addr 0x800098000 pattern 0xAAAAAAAA write ok read ok
-block 153 addr 0x800099000 pattern 0x55555555 write ok read ok
-block 153 addr 0x800099000 pattern 0xAAAAAAAA write ok read ok
-block 154 addr 0x80009A000 pattern 0x55555555 write ok read ok
-block 154 addr 0x80009A000 pattern 0xAAAAAAAA write ok read ok
-block 155 addr 0x80009B000 pattern 0x55555555 write ok read ok
-block 155 addr 0x80009B000 pattern 0xAAAAAAAA write ok read ok
-block 156 addr 0x80009C000 pattern 0x55555555 write ok read ok
-block 156 addr 0x80009C000 pattern 0xAAAAAAAA write ok read ok
-block 157 addr 0x80009D000 pattern 0x55555555 write ok read ok
-block 157 addr 0x80009D000 pattern 0xAAAAAAAA write ok read ok
-block 158 addr 0x80009E000 pattern 0x55555555 write ok read ok
-block 158 addr 0x80009E000 pattern 0xAAAAAAAA write ok read ok
-block 159 addr 0x80009F000 pattern 0x55555555 write ok read ok
-block 159 addr 0x80009F000 pattern 0xAAAAAAAA write ok read ok
-block 160 addr 0x8000A0000 pattern 0x55555555 write ok read ok
-block 160 addr 0x8000A0000 pattern 0xAAAAAAAA write ok read ok
-block 161 addr 0x8000A1000 pattern 0x55555555 write ok read ok
-block 161 addr 0x8000A1000 pattern 0xAAAAAAAA write ok read ok
-block 162 addr 0x8000A2000 pattern 0x55555555 write ok read ok
-block 162 addr 0x8000A2000 pattern 0xAAAAAAAA write ok read ok
-block 163 addr 0x8000A3000 pattern 0x55555555 write ok read ok
-block 163 addr 0x8000A3000 pattern 0xAAAAAAAA write ok read ok
-block 164 addr 0x8000A4000 pattern 0x55555555 write ok read ok
-block 164 addr 0x8000A4000 pattern 0xAAAAAAAA write ok read ok
-block 165 addr 0x8000A5000 pattern 0x55555555 write ok read ok
-block 165 addr 0x8000A5000 pattern 0xAAAAAAAA write ok read ok
-block 166 addr 0x8000A6000 pattern 0x55555555 write ok read ok
-block 166 addr 0x8000A6000 pattern 0xAAAAAAAA write ok read ok
-block 167 addr 0x8000A7000 pattern 0x55555555 write ok read ok
-block 167 addr 0x8000A7000 pattern 0xAAAAAAAA write ok read ok
-block 168 addr 0x8000A8000 pattern 0x55555555 write ok read ok
-block 168 addr 0x8000A8000 pattern 0xAAAAAAAA write ok read ok
-block 169 addr 0x8000A9000 pattern 0x55555555 write ok read ok
-block 169 addr 0x8000A9000 pattern 0xAAAAAAAA write ok read ok
-block 170 addr 0x8000AA000 pattern 0x55555555 write ok read ok
-block 170 addr 0x8000AA000 pattern 0xAAAAAAAA write ok read ok
-block 171 addr 0x8000AB000 pattern 0x55555555 write ok read ok
-block 171 addr 0x8000AB000 pattern 0xAAAAAAAA write ok read ok
-block 172 addr 0x8000AC000 pattern 0x55555555 write ok read ok
-block 172 addr 0x8000AC000 pattern 0xAAAAAAAA write ok read ok
-block 173 addr 0x8000AD000 pattern 0x55555555 write ok read ok
-block 173 addr 0x8000AD000 pattern 0xAAAAAAAA write ok read ok
-block 174 addr 0x8000AE000 pattern 0x55555555 write ok read ok
-block 174 addr 0x8000AE000 pattern 0xAAAAAAAA write ok read ok
-block 175 addr 0x8000AF000 pattern 0x55555555 write ok read ok
-block 175 addr 0x8000AF000 pattern 0xAAAAAAAA write ok read ok
-block 176 addr 0x8000B0000 pattern 0x55555555 write ok read ok
-block 176 addr 0x8000B0000 pattern 0xAAAAAAAA write ok read ok
-block 177 addr 0x8000B1000 pattern 0x55555555 write ok read ok
-block 177 addr 0x8000B1000 pattern 0xAAAAAAAA write ok read ok
-block 178 addr 0x8000B2000 pattern 0x55555555 write ok read ok
-block 178 addr 0x8000B2000 pattern 0xAAAAAAAA write ok read ok
-block 179 addr 0x8000B3000 pattern 0x55555555 write ok read ok
-block 179 addr 0x8000B3000 pattern 0xAAAAAAAA write ok read ok
-block 180 addr 0x8000B4000 pattern 0x55555555 write ok read ok
-block 180 addr 0x8000B4000 pattern 0xAAAAAAAA write ok read ok
-block 181 addr 0x8000B5000 pattern 0x55555555 write ok read ok
-block 181 addr 0x8000B5000 pattern 0xAAAAAAAA write ok read ok
-block 182 addr 0x8000B6000 pattern 0x55555555 write ok read ok
-block 182 addr 0x8000B6000 pattern 0xAAAAAAAA write ok read ok
-block 183 addr 0x8000B7000 pattern 0x55555555 write ok read ok
-block 183 addr 0x8000B7000 pattern 0xAAAAAAAA write ok read ok
-block 184 addr 0x8000B8000 pattern 0x55555555 write ok read ok
-block 184 addr 0x8000B8000 pattern 0xAAAAAAAA write ok read ok
-block 185 addr 0x8000B9000 pattern 0x55555555 write ok read ok
-block 185 addr 0x8000B9000 pattern 0xAAAAAAAA write ok read ok
-block 186 addr 0x8000BA000 pattern 0x55555555 write ok read ok
-block 186 addr 0x8000BA000 pattern 0xAAAAAAAA write ok read ok
-block 187 addr 0x8000BB000 pattern 0x55555555 write ok read ok
-block 187 addr 0x8000BB000 pattern 0xAAAAAAAA write ok read ok
-block 188 addr 0x8000BC000 pattern 0x55555555 write ok read ok
-block 188 addr 0x8000BC000 pattern 0xAAAAAAAA write ok read ok
-block 189 addr 0x8000BD000 pattern 0x55555555 write ok read ok
-block 189 addr 0x8000BD000 pattern 0xAAAAAAAA write ok read ok
-block 190 addr 0x8000BE000 pattern 0x55555555 write ok read ok
-block 190 addr 0x8000BE000 pattern 0xAAAAAAAA write ok read ok
-block 191 addr 0x8000BF000 pattern 0x55555555 write ok read ok
-block 191 addr 0x8000BF000 pattern 0xAAAAAAAA write ok read ok
-block 192 addr 0x8000C0000 pattern 0x55555555 write ok read ok
-block 192 addr 0x8000C0000 pattern 0xAAAAAAAA write ok read ok
-block 193 addr 0x8000C1000 pattern 0x55555555 write ok read ok
-block 193 addr 0x8000C1000 pattern 0xAAAAAAAA write ok read ok
-block 194 addr 0x8000C2000 pattern 0x55555555 write ok read ok
-block 194 addr 0x8000C2000 pattern 0xAAAAAAAA write ok read ok
-block 195 addr 0x8000C3000 pattern 0x55555555 write ok read ok
-block 195 addr 0x8000C3000 pattern 0xAAAAAAAA write ok read ok
-block 196 addr 0x8000C4000 pattern 0x55555555 write ok read ok
-block 196 addr 0x8000C4000 pattern 0xAAAAAAAA write ok read ok
-block 197 addr 0x8000C5000 pattern 0x55555555 write ok read ok
-block 197 addr 0x8000C5000 pattern 0xAAAAAAAA write ok read ok
-block 198 addr 0x8000C6000 pattern 0x55555555 write ok read ok
-block 198 addr 0x8000C6000 pattern 0xAAAAAAAA write ok read ok
-block 199 addr 0x8000C7000 pattern 0x55555555 write ok read ok
-block 199 addr 0x8000C7000 pattern 0xAAAAAAAA write ok read ok
-block 200 addr 0x8000C8000 pattern 0x55555555 write ok read ok
-block 200 addr 0x8000C8000 pattern 0xAAAAAAAA write ok read ok
-block 201 addr 0x8000C9000 pattern 0x55555555 write ok read ok
-block 201 addr 0x8000C9000 pattern 0xAAAAAAAA write ok read ok
-block 202 addr 0x8000CA000 pattern 0x55555555 write ok read ok
-block 202 addr 0x8000CA000 pattern 0xAAAAAAAA write ok read ok
-block 203 addr 0x8000CB000 pattern 0x55555555 write ok read ok
-block 203 addr 0x8000CB000 pattern 0xAAAAAAAA write ok read ok
-block 204 addr 0x8000CC000 pattern 0x55555555 write ok read ok
-block 204 addr 0x8000CC000 pattern 0xAAAAAAAA write ok read ok
-block 205 addr 0x8000CD000 pattern 0x55555555 write ok read ok
-block 205 addr 0x8000CD000 pattern 0xAAAAAAAA write ok read ok
-block 206 addr 0x8000CE000 pattern 0x55555555 write ok read ok
-block 206 addr 0x8000CE000 pattern 0xAAAAAAAA write ok read ok
-block 207 addr 0x8000CF000 pattern 0x55555555 write ok read ok
-block 207 addr 0x8000CF000 pattern 0xAAAAAAAA write ok read ok
-block 208 addr 0x8000D0000 pattern 0x55555555 write ok read ok
-block 208 addr 0x8000D0000 pattern 0xAAAAAAAA write ok read ok
-block 209 addr 0x8000D1000 pattern 0x55555555 write ok read ok
-block 209 addr 0x8000D1000 pattern 0xAAAAAAAA write ok read ok
-block 210 addr 0x8000D2000 pattern 0x55555555 write ok read ok
-block 210 addr 0x8000D2000 pattern 0xAAAAAAAA write ok read ok
-block 211 addr 0x8000D3000 pattern 0x55555555 write ok read ok
-block 211 addr 0x8000D3000 pattern 0xAAAAAAAA write ok read ok
-block 212 addr 0x8000D4000 pattern 0x55555555 write ok read ok
-block 212 addr 0x8000D4000 pattern 0xAAAAAAAA write ok read ok
-block 213 addr 0x8000D5000 pattern 0x55555555 write ok read ok
-block 213 addr 0x8000D5000 pattern 0xAAAAAAAA write ok read ok
-block 214 addr 0x8000D6000 pattern 0x55555555 write ok read ok
-block 214 addr 0x8000D6000 pattern 0xAAAAAAAA write ok read ok
-block 215 addr 0x8000D7000 pattern 0x55555555 write ok read ok
-block 215 addr 0x8000D7000 pattern 0xAAAAAAAA write ok read ok
-block 216 addr 0x8000D8000 pattern 0x55555555 write ok read ok
-block 216 addr 0x8000D8000 pattern 0xAAAAAAAA write ok read ok
-block 217 addr 0x8000D9000 pattern 0x55555555 write ok read ok
-block 217 addr 0x8000D9000 pattern 0xAAAAAAAA write ok read ok
-block 218 addr 0x8000DA000 pattern 0x55555555 write ok read ok
-block 218 addr 0x8000DA000 pattern 0xAAAAAAAA write ok read ok
-block 219 addr 0x8000DB000 pattern 0x55555555 write ok read ok
-block 219 addr 0x8000DB000 pattern 0xAAAAAAAA write ok read ok
-block 220 addr 0x8000DC000 pattern 0x55555555 write ok read ok
-block 220 addr 0x8000DC000 pattern 0xAAAAAAAA write ok read ok
-block 221 addr 0x8000DD000 pattern 0x55555555 write ok read ok
-block 221 addr 0x8000DD000 pattern 0xAAAAAAAA write ok read ok
-block 222 addr 0x8000DE000 pattern 0x55555555 write ok read ok
-block 222 addr 0x8000DE000 pattern 0xAAAAAAAA write ok read ok
-block 223 addr 0x8000DF000 pattern 0x55555555 write ok read ok
-block 223 addr 0x8000DF000 pattern 0xAAAAAAAA write ok read ok
-block 224 addr 0x8000E0000 pattern 0x55555555 write ok read ok
-block 224 addr 0x8000E0000 pattern 0xAAAAAAAA write ok read ok
-block 225 addr 0x8000E1000 pattern 0x55555555 write ok read ok
-block 225 addr 0x8000E1000 pattern 0xAAAAAAAA write ok read ok
-block 226 addr 0x8000E2000 pattern 0x55555555 write ok read ok
-block 226 addr 0x8000E2000 pattern 0xAAAAAAAA write ok read ok
-block 227 addr 0x8000E3000 pattern 0x55555555 write ok read ok
-block 227 addr 0x8000E3000 pattern 0xAAAAAAAA write ok read ok
-block 228 addr 0x8000E4000 pattern 0x55555555 write ok read ok
-block 228 addr 0x8000E4000 pattern 0xAAAAAAAA write ok read ok
-block 229 addr 0x8000E5000 pattern 0x55555555 write ok read ok
-block 229 addr 0x8000E5000 pattern 0xAAAAAAAA write ok read ok
-block 230 addr 0x8000E6000 pattern 0x55555555 write ok read ok
-block 230 addr 0x8000E6000 pattern 0xAAAAAAAA write ok read ok
-block 231 addr 0x8000E7000 pattern 0x55555555 write ok read ok
-block 231 addr 0x8000E7000 pattern 0xAAAAAAAA write ok read ok
-block 232 addr 0x8000E8000 pattern 0x55555555 write ok read ok
-block 232 addr 0x8000E8000 pattern 0xAAAAAAAA write ok read ok
-block 233 addr 0x8000E9000 pattern 0x55555555 write ok read ok
-block 233 addr 0x8000E9000 pattern 0xAAAAAAAA write ok read ok
-block 234 addr 0x8000EA000 pattern 0x55555555 write ok read ok
-block 234 addr 0x8000EA000 pattern 0xAAAAAAAA write ok read ok
-block 235 addr 0x8000EB000 pattern 0x55555555 write ok read ok
-block 235 addr 0x8000EB000 pattern 0xAAAAAAAA write ok read ok
-block 236 addr 0x8000EC000 pattern 0x55555555 write ok read ok
-block 236 addr 0x8000EC000 pattern 0xAAAAAAAA write ok read ok
-block 237 addr 0x8000ED000 pattern 0x55555555 write ok read ok
-block 237 addr 0x8000ED000 pattern 0xAAAAAAAA write ok read ok
-block 238 addr 0x8000EE000 pattern 0x55555555 write ok read ok
-block 238 addr 0x8000EE000 pattern 0xAAAAAAAA write ok read ok
-block 239 addr 0x8000EF000 pattern 0x55555555 write ok read ok
-block 239 addr 0x8000EF000 pattern 0xAAAAAAAA write ok read ok
-block 240 addr 0x8000F0000 pattern 0x55555555 write ok read ok
-block 240 addr 0x8000F0000 pattern 0xAAAAAAAA write ok read ok
-block 241 addr 0x8000F1000 pattern 0x55555555 write ok read ok
-block 241 addr 0x8000F1000 pattern 0xAAAAAAAA write ok read ok
-block 242 addr 0x8000F2000 pattern 0x55555555 write ok read ok
-block 242 addr 0x8000F2000 pattern 0xAAAAAAAA write ok read ok
-block 243 addr 0x8000F3000 pattern 0x55555555 write ok read ok
-block 243 addr 0x8000F3000 pattern 0xAAAAAAAA write ok read ok
-block 244 addr 0x8000F4000 pattern 0x55555555 write ok read ok
-block 244 addr 0x8000F4000 pattern 0xAAAAAAAA write ok read ok
-block 245 addr 0x8000F5000 pattern 0x55555555 write ok read ok
-block 245 addr 0x8000F5000 pattern 0xAAAAAAAA write ok read ok
-block 246 addr 0x8000F6000 pattern 0x55555555 write ok read ok
-block 246 addr 0x8000F6000 pattern 0xAAAAAAAA write ok read ok
-block 247 addr 0x8000F7000 pattern 0x55555555 write ok read ok
-block 247 addr 0x8000F7000 pattern 0xAAAAAAAA write ok read ok
-block 248 addr 0x8000F8000 pattern 0x55555555 write ok read ok
-block 248 addr 0x8000F8000 pattern 0xAAAAAAAA write ok read ok
-block 249 addr 0x8000F9000 pattern 0x55555555 write ok read ok
-block 249 addr 0x8000F9000 pattern 0xAAAAAAAA write ok read ok
-block 250 addr 0x8000FA000 pattern 0x55555555 write ok read ok
-block 250 addr 0x8000FA000 pattern 0xAAAAAAAA write ok read ok
-block 251 addr 0x8000FB000 pattern 0x55555555 write ok read ok
-block 251 addr 0x8000FB000 pattern 0xAAAAAAAA write ok read ok
-block 252 addr 0x8000FC000 pattern 0x55555555 write ok read ok
-block 252 addr 0x8000FC000 pattern 0xAAAAAAAA write ok read ok
-block 253 addr 0x8000FD000 pattern 0x55555555 write ok read ok
-block 253 addr 0x8000FD000 pattern 0xAAAAAAAA write ok read ok
-block 254 addr 0x8000FE000 pattern 0x55555555 write ok read ok
-block 254 addr 0x8000FE000 pattern 0xAAAAAAAA write ok read ok
-block 255 addr 0x8000FF000 pattern 0x55555555 write ok read ok
-block 255 addr 0x8000FF000 pattern 0xAAAAAAAA write ok read ok
-testmemory --1MB: Passed
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
 INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 8', 'baseband --off',
 replace('
 baseband --off', char(10), char(13, 10)) || char(13) || replace('
@@ -10094,6 +6395,66 @@ replace('
 buckcheck 5', char(10), char(13, 10)) || char(13) || replace('
 buckcheck starting, please wait
 buck5 target 1060 mV measured 1056.674 mV PASS
+[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
+'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 8', 'BUTTONCNT --DQE',
+replace('
+BUTTONCNT --DQE', char(10), char(13, 10)) || char(13) || replace('
+Button count test running, results on the device screen
+Send /q to quit
+[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
+'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 8', 'Help',
+replace('
+Help', char(10), char(13, 10)) || char(13) || replace('
+Available commands (type <command> --help for options):
+  accel          diagnostics command accel: run, read or control the accel block of the board
+  als            diagnostics command als: run, read or control the als block of the board
+  audio          diagnostics command audio: run, read or control the audio block of the board
+  baseband       diagnostics command baseband: run, read or control the baseband block of the board
+  battery        diagnostics command battery: run, read or control the battery block of the board
+  bl             diagnostics command bl: run, read or control the bl block of the board
+  bluetooth      diagnostics command bluetooth: run, read or control the bluetooth block of the board
+  buck           diagnostics command buck: run, read or control the buck block of the board
+  buckcheck      diagnostics command buckcheck: run, read or control the buckcheck block of the board
+  buttoncnt      diagnostics command buttoncnt: run, read or control the buttoncnt block of the board
+  camisp         diagnostics command camisp: run, read or control the camisp block of the board
+  charge         diagnostics command charge: run, read or control the charge block of the board
+  compass        diagnostics command compass: run, read or control the compass block of the board
+  consoleinit    diagnostics command consoleinit: run, read or control the consoleinit block of the board
+  device         diagnostics command device: run, read or control the device block of the board
+  diags          diagnostics command diags: run, read or control the diags block of the board
+  display        diagnostics command display: run, read or control the display block of the board
+  dock           diagnostics command dock: run, read or control the dock block of the board
+  exit           diagnostics command exit: run, read or control the exit block of the board
+  gps            diagnostics command gps: run, read or control the gps block of the board
+  gyro           diagnostics command gyro: run, read or control the gyro block of the board
+  help           diagnostics command help: run, read or control the help block of the board
+  hydra          diagnostics command hydra: run, read or control the hydra block of the board
+  i2c            diagnostics command i2c: run, read or control the i2c block of the board
+  mic            diagnostics command mic: run, read or control the mic block of the board
+  nand           diagnostics command nand: run, read or control the nand block of the board
+  nandsize       diagnostics command nandsize: run, read or control the nandsize block of the board
+  nanduid        diagnostics command nanduid: run, read or control the nanduid block of the board
+  pmuadc         diagnostics command pmuadc: run, read or control the pmuadc block of the board
+  pmureg         diagnostics command pmureg: run, read or control the pmureg block of the board
+  prox           diagnostics command prox: run, read or control the prox block of the board
+  reset          diagnostics command reset: run, read or control the reset block of the board
+  rtc            diagnostics command rtc: run, read or control the rtc block of the board
+  sensor         diagnostics command sensor: run, read or control the sensor block of the board
+  shutdown       diagnostics command shutdown: run, read or control the shutdown block of the board
+  smokey         diagnostics command smokey: run, read or control the smokey block of the board
+  soc            diagnostics command soc: run, read or control the soc block of the board
+  speaker        diagnostics command speaker: run, read or control the speaker block of the board
+  syscfg         diagnostics command syscfg: run, read or control the syscfg block of the board
+  temp           diagnostics command temp: run, read or control the temp block of the board
+  testmemory     diagnostics command testmemory: run, read or control the testmemory block of the board
+  touch          diagnostics command touch: run, read or control the touch block of the board
+  tristar        diagnostics command tristar: run, read or control the tristar block of the board
+  usb            diagnostics command usb: run, read or control the usb block of the board
+  version        diagnostics command version: run, read or control the version block of the board
+  vibrator       diagnostics command vibrator: run, read or control the vibrator block of the board
+  wifi           diagnostics command wifi: run, read or control the wifi block of the board
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
 INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 8', 'i2c -s 0',
@@ -10253,6 +6614,12 @@ tigris vldo : 1788.810 mV
 tigris vntc : 615.273 mV
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 8', 'Reset',
+replace('
+Reset', char(10), char(13, 10)) || char(13) || replace('
+Resetting device...
+[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
+'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
 INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 8', 'syscfg list',
 replace('
 syscfg list', char(10), char(13, 10)) || char(13) || replace('
@@ -10345,9 +6712,9 @@ memory test random       Passed
 testmemory: Passed
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 8', 'testmemory --1MB',
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 8', 'TESTMEMORY --1MB',
 replace('
-testmemory --1MB', char(10), char(13, 10)) || char(13) || replace('
+TESTMEMORY --1MB', char(10), char(13, 10)) || char(13) || replace('
 testmemory 1MB read/write, 256 blocks of 4 KiB
 block   0 addr 0x800000000 pattern 0x55555555 write ok read ok
 block   0 addr 0x800000000 pattern 0xAAAAAAAA write ok read ok
@@ -10961,591 +7328,6 @@ replace('
 Button count test ended
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 8 Plus', 'BUTTONCNT --DQE',
-replace('
-BUTTONCNT --DQE', char(10), char(13, 10)) || char(13) || replace('
-Button count test running, results on the device screen
-Send /q to quit
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 8 Plus', 'Help',
-replace('
-Help', char(10), char(13, 10)) || char(13) || replace('
-Available commands (type <command> --help for options):
-  accel          diagnostics command accel: run, read or control the accel block of the board
-  als            diagnostics command als: run, read or control the als block of the board
-  audio          diagnostics command audio: run, read or control the audio block of the board
-  baseband       diagnostics command baseband: run, read or control the baseband block of the board
-  battery        diagnostics command battery: run, read or control the battery block of the board
-  bl             diagnostics command bl: run, read or control the bl block of the board
-  bluetooth      diagnostics command bluetooth: run, read or control the bluetooth block of the board
-  buck           diagnostics command buck: run, read or control the buck block of the board
-  buckcheck      diagnostics command buckcheck: run, read or control the buckcheck block of the board
-  buttoncnt      diagnostics command buttoncnt: run, read or control the buttoncnt block of the board
-  camisp         diagnostics command camisp: run, read or control the camisp block of the board
-  charge         diagnostics command charge: run, read or control the charge block of the board
-  compass        diagnostics command compass: run, read or control the compass block of the board
-  consoleinit    diagnostics command consoleinit: run, read or control the consoleinit block of the board
-  device         diagnostics command device: run, read or control the device block of the board
-  diags          diagnostics command diags: run, read or control the diags block of the board
-  display        diagnostics command display: run, read or control the display block of the board
-  dock           diagnostics command dock: run, read or control the dock block of the board
-  exit           diagnostics command exit: run, read or control the exit block of the board
-  gps            diagnostics command gps: run, read or control the gps block of the board
-  gyro           diagnostics command gyro: run, read or control the gyro block of the board
-  help           diagnostics command help: run, read or control the help block of the board
-  hydra          diagnostics command hydra: run, read or control the hydra block of the board
-  i2c            diagnostics command i2c: run, read or control the i2c block of the board
-  mic            diagnostics command mic: run, read or control the mic block of the board
-  nand           diagnostics command nand: run, read or control the nand block of the board
-  nandsize       diagnostics command nandsize: run, read or control the nandsize block of the board
-  nanduid        diagnostics command nanduid: run, read or control the nanduid block of the board
-  pmuadc         diagnostics command pmuadc: run, read or control the pmuadc block of the board
-  pmureg         diagnostics command pmureg: run, read or control the pmureg block of the board
-  prox           diagnostics command prox: run, read or control the prox block of the board
-  reset          diagnostics command reset: run, read or control the reset block of the board
-  rtc            diagnostics command rtc: run, read or control the rtc block of the board
-  sensor         diagnostics command sensor: run, read or control the sensor block of the board
-  shutdown       diagnostics command shutdown: run, read or control the shutdown block of the board
-  smokey         diagnostics command smokey: run, read or control the smokey block of the board
-  soc            diagnostics command soc: run, read or control the soc block of the board
-  speaker        diagnostics command speaker: run, read or control the speaker block of the board
-  syscfg         diagnostics command syscfg: run, read or control the syscfg block of the board
-  temp           diagnostics command temp: run, read or control the temp block of the board
-  testmemory     diagnostics command testmemory: run, read or control the testmemory block of the board
-  touch          diagnostics command touch: run, read or control the touch block of the board
-  tristar        diagnostics command tristar: run, read or control the tristar block of the board
-  usb            diagnostics command usb: run, read or control the usb block of the board
-  version        diagnostics command version: run, read or control the version block of the board
-  vibrator       diagnostics command vibrator: run, read or control the vibrator block of the board
-  wifi           diagnostics command wifi: run, read or control the wifi block of the board
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 8 Plus', 'Reset',
-replace('
-Reset', char(10), char(13, 10)) || char(13) || replace('
-Resetting device...
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 8 Plus', 'TESTMEMORY --1MB',
-replace('
-TESTMEMORY --1MB', char(10), char(13, 10)) || char(13) || replace('
-testmemory 1MB read/write, 256 blocks of 4 KiB
-block   0 addr 0x800000000 pattern 0x55555555 write ok read ok
-block   0 addr 0x800000000 pattern 0xAAAAAAAA write ok read ok
-block   1 addr 0x800001000 pattern 0x55555555 write ok read ok
-block   1 addr 0x800001000 pattern 0xAAAAAAAA write ok read ok
-block   2 addr 0x800002000 pattern 0x55555555 write ok read ok
-block   2 addr 0x800002000 pattern 0xAAAAAAAA write ok read ok
-block   3 addr 0x800003000 pattern 0x55555555 write ok read ok
-block   3 addr 0x800003000 pattern 0xAAAAAAAA write ok read ok
-block   4 addr 0x800004000 pattern 0x55555555 write ok read ok
-block   4 addr 0x800004000 pattern 0xAAAAAAAA write ok read ok
-block   5 addr 0x800005000 pattern 0x55555555 write ok read ok
-block   5 addr 0x800005000 pattern 0xAAAAAAAA write ok read ok
-block   6 addr 0x800006000 pattern 0x55555555 write ok read ok
-block   6 addr 0x800006000 pattern 0xAAAAAAAA write ok read ok
-block   7 addr 0x800007000 pattern 0x55555555 write ok read ok
-block   7 addr 0x800007000 pattern 0xAAAAAAAA write ok read ok
-block   8 addr 0x800008000 pattern 0x55555555 write ok read ok
-block   8 addr 0x800008000 pattern 0xAAAAAAAA write ok read ok
-block   9 addr 0x800009000 pattern 0x55555555 write ok read ok
-block   9 addr 0x800009000 pattern 0xAAAAAAAA write ok read ok
-block  10 addr 0x80000A000 pattern 0x55555555 write ok read ok
-block  10 addr 0x80000A000 pattern 0xAAAAAAAA write ok read ok
-block  11 addr 0x80000B000 pattern 0x55555555 write ok read ok
-block  11 addr 0x80000B000 pattern 0xAAAAAAAA write ok read ok
-block  12 addr 0x80000C000 pattern 0x55555555 write ok read ok
-block  12 addr 0x80000C000 pattern 0xAAAAAAAA write ok read ok
-block  13 addr 0x80000D000 pattern 0x55555555 write ok read ok
-block  13 addr 0x80000D000 pattern 0xAAAAAAAA write ok read ok
-block  14 addr 0x80000E000 pattern 0x55555555 write ok read ok
-block  14 addr 0x80000E000 pattern 0xAAAAAAAA write ok read ok
-block  15 addr 0x80000F000 pattern 0x55555555 write ok read ok
-block  15 addr 0x80000F000 pattern 0xAAAAAAAA write ok read ok
-block  16 addr 0x800010000 pattern 0x55555555 write ok read ok
-block  16 addr 0x800010000 pattern 0xAAAAAAAA write ok read ok
-block  17 addr 0x800011000 pattern 0x55555555 write ok read ok
-block  17 addr 0x800011000 pattern 0xAAAAAAAA write ok read ok
-block  18 addr 0x800012000 pattern 0x55555555 write ok read ok
-block  18 addr 0x800012000 pattern 0xAAAAAAAA write ok read ok
-block  19 addr 0x800013000 pattern 0x55555555 write ok read ok
-block  19 addr 0x800013000 pattern 0xAAAAAAAA write ok read ok
-block  20 addr 0x800014000 pattern 0x55555555 write ok read ok
-block  20 addr 0x800014000 pattern 0xAAAAAAAA write ok read ok
-block  21 addr 0x800015000 pattern 0x55555555 write ok read ok
-block  21 addr 0x800015000 pattern 0xAAAAAAAA write ok read ok
-block  22 addr 0x800016000 pattern 0x55555555 write ok read ok
-block  22 addr 0x800016000 pattern 0xAAAAAAAA write ok read ok
-block  23 addr 0x800017000 pattern 0x55555555 write ok read ok
-block  23 addr 0x800017000 pattern 0xAAAAAAAA write ok read ok
-block  24 addr 0x800018000 pattern 0x55555555 write ok read ok
-block  24 addr 0x800018000 pattern 0xAAAAAAAA write ok read ok
-block  25 addr 0x800019000 pattern 0x55555555 write ok read ok
-block  25 addr 0x800019000 pattern 0xAAAAAAAA write ok read ok
-block  26 addr 0x80001A000 pattern 0x55555555 write ok read ok
-block  26 addr 0x80001A000 pattern 0xAAAAAAAA write ok read ok
-block  27 addr 0x80001B000 pattern 0x55555555 write ok read ok
-block  27 addr 0x80001B000 pattern 0xAAAAAAAA write ok read ok
-block  28 addr 0x80001C000 pattern 0x55555555 write ok read ok
-block  28 addr 0x80001C000 pattern 0xAAAAAAAA write ok read ok
-block  29 addr 0x80001D000 pattern 0x55555555 write ok read ok
-block  29 addr 0x80001D000 pattern 0xAAAAAAAA write ok read ok
-block  30 addr 0x80001E000 pattern 0x55555555 write ok read ok
-block  30 addr 0x80001E000 pattern 0xAAAAAAAA write ok read ok
-block  31 addr 0x80001F000 pattern 0x55555555 write ok read ok
-block  31 addr 0x80001F000 pattern 0xAAAAAAAA write ok read ok
-block  32 addr 0x800020000 pattern 0x55555555 write ok read ok
-block  32 addr 0x800020000 pattern 0xAAAAAAAA write ok read ok
-block  33 addr 0x800021000 pattern 0x55555555 write ok read ok
-block  33 addr 0x800021000 pattern 0xAAAAAAAA write ok read ok
-block  34 addr 0x800022000 pattern 0x55555555 write ok read ok
-block  34 addr 0x800022000 pattern 0xAAAAAAAA write ok read ok
-block  35 addr 0x800023000 pattern 0x55555555 write ok read ok
-block  35 addr 0x800023000 pattern 0xAAAAAAAA write ok read ok
-block  36 addr 0x800024000 pattern 0x55555555 write ok read ok
-block  36 addr 0x800024000 pattern 0xAAAAAAAA write ok read ok
-block  37 addr 0x800025000 pattern 0x55555555 write ok read ok
-block  37 addr 0x800025000 pattern 0xAAAAAAAA write ok read ok
-block  38 addr 0x800026000 pattern 0x55555555 write ok read ok
-block  38 addr 0x800026000 pattern 0xAAAAAAAA write ok read ok
-block  39 addr 0x800027000 pattern 0x55555555 write ok read ok
-block  39 addr 0x800027000 pattern 0xAAAAAAAA write ok read ok
-block  40 addr 0x800028000 pattern 0x55555555 write ok read ok
-block  40 addr 0x800028000 pattern 0xAAAAAAAA write ok read ok
-block  41 addr 0x800029000 pattern 0x55555555 write ok read ok
-block  41 addr 0x800029000 pattern 0xAAAAAAAA write ok read ok
-block  42 addr 0x80002A000 pattern 0x55555555 write ok read ok
-block  42 addr 0x80002A000 pattern 0xAAAAAAAA write ok read ok
-block  43 addr 0x80002B000 pattern 0x55555555 write ok read ok
-block  43 addr 0x80002B000 pattern 0xAAAAAAAA write ok read ok
-block  44 addr 0x80002C000 pattern 0x55555555 write ok read ok
-block  44 addr 0x80002C000 pattern 0xAAAAAAAA write ok read ok
-block  45 addr 0x80002D000 pattern 0x55555555 write ok read ok
-block  45 addr 0x80002D000 pattern 0xAAAAAAAA write ok read ok
-block  46 addr 0x80002E000 pattern 0x55555555 write ok read ok
-block  46 addr 0x80002E000 pattern 0xAAAAAAAA write ok read ok
-block  47 addr 0x80002F000 pattern 0x55555555 write ok read ok
-block  47 addr 0x80002F000 pattern 0xAAAAAAAA write ok read ok
-block  48 addr 0x800030000 pattern 0x55555555 write ok read ok
-block  48 addr 0x800030000 pattern 0xAAAAAAAA write ok read ok
-block  49 addr 0x800031000 pattern 0x55555555 write ok read ok
-block  49 addr 0x800031000 pattern 0xAAAAAAAA write ok read ok
-block  50 addr 0x800032000 pattern 0x55555555 write ok read ok
-block  50 addr 0x800032000 pattern 0xAAAAAAAA write ok read ok
-block  51 addr 0x800033000 pattern 0x55555555 write ok read ok
-block  51 addr 0x800033000 pattern 0xAAAAAAAA write ok read ok
-block  52 addr 0x800034000 pattern 0x55555555 write ok read ok
-block  52 addr 0x800034000 pattern 0xAAAAAAAA write ok read ok
-block  53 addr 0x800035000 pattern 0x55555555 write ok read ok
-block  53 addr 0x800035000 pattern 0xAAAAAAAA write ok read ok
-block  54 addr 0x800036000 pattern 0x55555555 write ok read ok
-block  54 addr 0x800036000 pattern 0xAAAAAAAA write ok read ok
-block  55 addr 0x800037000 pattern 0x55555555 write ok read ok
-block  55 addr 0x800037000 pattern 0xAAAAAAAA write ok read ok
-block  56 addr 0x800038000 pattern 0x55555555 write ok read ok
-block  56 addr 0x800038000 pattern 0xAAAAAAAA write ok read ok
-block  57 addr 0x800039000 pattern 0x55555555 write ok read ok
-block  57 addr 0x800039000 pattern 0xAAAAAAAA write ok read ok
-block  58 addr 0x80003A000 pattern 0x55555555 write ok read ok
-block  58 addr 0x80003A000 pattern 0xAAAAAAAA write ok read ok
-block  59 addr 0x80003B000 pattern 0x55555555 write ok read ok
-block  59 addr 0x80003B000 pattern 0xAAAAAAAA write ok read ok
-block  60 addr 0x80003C000 pattern 0x55555555 write ok read ok
-block  60 addr 0x80003C000 pattern 0xAAAAAAAA write ok read ok
-block  61 addr 0x80003D000 pattern 0x55555555 write ok read ok
-block  61 addr 0x80003D000 pattern 0xAAAAAAAA write ok read ok
-block  62 addr 0x80003E000 pattern 0x55555555 write ok read ok
-block  62 addr 0x80003E000 pattern 0xAAAAAAAA write ok read ok
-block  63 addr 0x80003F000 pattern 0x55555555 write ok read ok
-block  63 addr 0x80003F000 pattern 0xAAAAAAAA write ok read ok
-block  64 addr 0x800040000 pattern 0x55555555 write ok read ok
-block  64 addr 0x800040000 pattern 0xAAAAAAAA write ok read ok
-block  65 addr 0x800041000 pattern 0x55555555 write ok read ok
-block  65 addr 0x800041000 pattern 0xAAAAAAAA write ok read ok
-block  66 addr 0x800042000 pattern 0x55555555 write ok read ok
-block  66 addr 0x800042000 pattern 0xAAAAAAAA write ok read ok
-block  67 addr 0x800043000 pattern 0x55555555 write ok read ok
-block  67 addr 0x800043000 pattern 0xAAAAAAAA write ok read ok
-block  68 addr 0x800044000 pattern 0x55555555 write ok read ok
-block  68 addr 0x800044000 pattern 0xAAAAAAAA write ok read ok
-block  69 addr 0x800045000 pattern 0x55555555 write ok read ok
-block  69 addr 0x800045000 pattern 0xAAAAAAAA write ok read ok
-block  70 addr 0x800046000 pattern 0x55555555 write ok read ok
-block  70 addr 0x800046000 pattern 0xAAAAAAAA write ok read ok
-block  71 addr 0x800047000 pattern 0x55555555 write ok read ok
-block  71 addr 0x800047000 pattern 0xAAAAAAAA write ok read ok
-block  72 addr 0x800048000 pattern 0x55555555 write ok read ok
-block  72 addr 0x800048000 pattern 0xAAAAAAAA write ok read ok
-block  73 addr 0x800049000 pattern 0x55555555 write ok read ok
-block  73 addr 0x800049000 pattern 0xAAAAAAAA write ok read ok
-block  74 addr 0x80004A000 pattern 0x55555555 write ok read ok
-block  74 addr 0x80004A000 pattern 0xAAAAAAAA write ok read ok
-block  75 addr 0x80004B000 pattern 0x55555555 write ok read ok
-block  75 addr 0x80004B000 pattern 0xAAAAAAAA write ok read ok
-block  76 addr 0x80004C000 pattern 0x55555555 write ok read ok
-block  76 addr 0x80004C000 pattern 0xAAAAAAAA write ok read ok
-block  77 addr 0x80004D000 pattern 0x55555555 write ok read ok
-block  77 addr 0x80004D000 pattern 0xAAAAAAAA write ok read ok
-block  78 addr 0x80004E000 pattern 0x55555555 write ok read ok
-block  78 addr 0x80004E000 pattern 0xAAAAAAAA write ok read ok
-block  79 addr 0x80004F000 pattern 0x55555555 write ok read ok
-block  79 addr 0x80004F000 pattern 0xAAAAAAAA write ok read ok
-block  80 addr 0x800050000 pattern 0x55555555 write ok read ok
-block  80 addr 0x800050000 pattern 0xAAAAAAAA write ok read ok
-block  81 addr 0x800051000 pattern 0x55555555 write ok read ok
-block  81 addr 0x800051000 pattern 0xAAAAAAAA write ok read ok
-block  82 addr 0x800052000 pattern 0x55555555 write ok read ok
-block  82 addr 0x800052000 pattern 0xAAAAAAAA write ok read ok
-block  83 addr 0x800053000 pattern 0x55555555 write ok read ok
-block  83 addr 0x800053000 pattern 0xAAAAAAAA write ok read ok
-block  84 addr 0x800054000 pattern 0x55555555 write ok read ok
-block  84 addr 0x800054000 pattern 0xAAAAAAAA write ok read ok
-block  85 addr 0x800055000 pattern 0x55555555 write ok read ok
-block  85 addr 0x800055000 pattern 0xAAAAAAAA write ok read ok
-block  86 addr 0x800056000 pattern 0x55555555 write ok read ok
-block  86 addr 0x800056000 pattern 0xAAAAAAAA write ok read ok
-block  87 addr 0x800057000 pattern 0x55555555 write ok read ok
-block  87 addr 0x800057000 pattern 0xAAAAAAAA write ok read ok
-block  88 addr 0x800058000 pattern 0x55555555 write ok read ok
-block  88 addr 0x800058000 pattern 0xAAAAAAAA write ok read ok
-block  89 addr 0x800059000 pattern 0x55555555 write ok read ok
-block  89 addr 0x800059000 pattern 0xAAAAAAAA write ok read ok
-block  90 addr 0x80005A000 pattern 0x55555555 write ok read ok
-block  90 addr 0x80005A000 pattern 0xAAAAAAAA write ok read ok
-block  91 addr 0x80005B000 pattern 0x55555555 write ok read ok
-block  91 addr 0x80005B000 pattern 0xAAAAAAAA write ok read ok
-block  92 addr 0x80005C000 pattern 0x55555555 write ok read ok
-block  92 addr 0x80005C000 pattern 0xAAAAAAAA write ok read ok
-block  93 addr 0x80005D000 pattern 0x55555555 write ok read ok
-block  93 addr 0x80005D000 pattern 0xAAAAAAAA write ok read ok
-block  94 addr 0x80005E000 pattern 0x55555555 write ok read ok
-block  94 addr 0x80005E000 pattern 0xAAAAAAAA write ok read ok
-block  95 addr 0x80005F000 pattern 0x55555555 write ok read ok
-block  95 addr 0x80005F000 pattern 0xAAAAAAAA write ok read ok
-block  96 addr 0x800060000 pattern 0x55555555 write ok read ok
-block  96 addr 0x800060000 pattern 0xAAAAAAAA write ok read ok
-block  97 addr 0x800061000 pattern 0x55555555 write ok read ok
-block  97 addr 0x800061000 pattern 0xAAAAAAAA write ok read ok
-block  98 addr 0x800062000 pattern 0x55555555 write ok read ok
-block  98 addr 0x800062000 pattern 0xAAAAAAAA write ok read ok
-block  99 addr 0x800063000 pattern 0x55555555 write ok read ok
-block  99 addr 0x800063000 pattern 0xAAAAAAAA write ok read ok
-block 100 addr 0x800064000 pattern 0x55555555 write ok read ok
-block 100 addr 0x800064000 pattern 0xAAAAAAAA write ok read ok
-block 101 addr 0x800065000 pattern 0x55555555 write ok read ok
-block 101 addr 0x800065000 pattern 0xAAAAAAAA write ok read ok
-block 102 addr 0x800066000 pattern 0x55555555 write ok read ok
-block 102 addr 0x800066000 pattern 0xAAAAAAAA write ok read ok
-block 103 addr 0x800067000 pattern 0x55555555 write ok read ok
-block 103 addr 0x800067000 pattern 0xAAAAAAAA write ok read ok
-block 104 addr 0x800068000 pattern 0x55555555 write ok read ok
-block 104 addr 0x800068000 pattern 0xAAAAAAAA write ok read ok
-block 105 addr 0x800069000 pattern 0x55555555 write ok read ok
-block 105 addr 0x800069000 pattern 0xAAAAAAAA write ok read ok
-block 106 addr 0x80006A000 pattern 0x55555555 write ok read ok
-block 106 addr 0x80006A000 pattern 0xAAAAAAAA write ok read ok
-block 107 addr 0x80006B000 pattern 0x55555555 write ok read ok
-block 107 addr 0x80006B000 pattern 0xAAAAAAAA write ok read ok
-block 108 addr 0x80006C000 pattern 0x55555555 write ok read ok
-block 108 addr 0x80006C000 pattern 0xAAAAAAAA write ok read ok
-block 109 addr 0x80006D000 pattern 0x55555555 write ok read ok
-block 109 addr 0x80006D000 pattern 0xAAAAAAAA write ok read ok
-block 110 addr 0x80006E000 pattern 0x55555555 write ok read ok
-block 110 addr 0x80006E000 pattern 0xAAAAAAAA write ok read ok
-block 111 addr 0x80006F000 pattern 0x55555555 write ok read ok
-block 111 addr 0x80006F000 pattern 0xAAAAAAAA write ok read ok
-block 112 addr 0x800070000 pattern 0x55555555 write ok read ok
-block 112 addr 0x800070000 pattern 0xAAAAAAAA write ok read ok
-block 113 addr 0x800071000 pattern 0x55555555 write ok read ok
-block 113 addr 0x800071000 pattern 0xAAAAAAAA write ok read ok
-block 114 addr 0x800072000 pattern 0x55555555 write ok read ok
-block 114 addr 0x800072000 pattern 0xAAAAAAAA write ok read ok
-block 115 addr 0x800073000 pattern 0x55555555 write ok read ok
-block 115 addr 0x800073000 pattern 0xAAAAAAAA write ok read ok
-block 116 addr 0x800074000 pattern 0x55555555 write ok read ok
-block 116 addr 0x800074000 pattern 0xAAAAAAAA write ok read ok
-block 117 addr 0x800075000 pattern 0x55555555 write ok read ok
-block 117 addr 0x800075000 pattern 0xAAAAAAAA write ok read ok
-block 118 addr 0x800076000 pattern 0x55555555 write ok read ok
-block 118 addr 0x800076000 pattern 0xAAAAAAAA write ok read ok
-block 119 addr 0x800077000 pattern 0x55555555 write ok read ok
-block 119 addr 0x800077000 pattern 0xAAAAAAAA write ok read ok
-block 120 addr 0x800078000 pattern 0x55555555 write ok read ok
-block 120 addr 0x800078000 pattern 0xAAAAAAAA write ok read ok
-block 121 addr 0x800079000 pattern 0x55555555 write ok read ok
-block 121 addr 0x800079000 pattern 0xAAAAAAAA write ok read ok
-block 122 addr 0x80007A000 pattern 0x55555555 write ok read ok
-block 122 addr 0x80007A000 pattern 0xAAAAAAAA write ok read ok
-block 123 addr 0x80007B000 pattern 0x55555555 write ok read ok
-block 123 addr 0x80007B000 pattern 0xAAAAAAAA write ok read ok
-block 124 addr 0x80007C000 pattern 0x55555555 write ok read ok
-block 124 addr 0x80007C000 pattern 0xAAAAAAAA write ok read ok
-block 125 addr 0x80007D000 pattern 0x55555555 write ok read ok
-block 125 addr 0x80007D000 pattern 0xAAAAAAAA write ok read ok
-block 126 addr 0x80007E000 pattern 0x55555555 write ok read ok
-block 126 addr 0x80007E000 pattern 0xAAAAAAAA write ok read ok
-block 127 addr 0x80007F000 pattern 0x55555555 write ok read ok
-block 127 addr 0x80007F000 pattern 0xAAAAAAAA write ok read ok
-block 128 addr 0x800080000 pattern 0x55555555 write ok read ok
-block 128 addr 0x800080000 pattern 0xAAAAAAAA write ok read ok
-block 129 addr 0x800081000 pattern 0x55555555 write ok read ok
-block 129 addr 0x800081000 pattern 0xAAAAAAAA write ok read ok
-block 130 addr 0x800082000 pattern 0x55555555 write ok read ok
-block 130 addr 0x800082000 pattern 0xAAAAAAAA write ok read ok
-block 131 addr 0x800083000 pattern 0x55555555 write ok read ok
-block 131 addr 0x800083000 pattern 0xAAAAAAAA write ok read ok
-block 132 addr 0x800084000 pattern 0x55555555 write ok read ok
-block 132 addr 0x800084000 pattern 0xAAAAAAAA write ok read ok
-block 133 addr 0x800085000 pattern 0x55555555 write ok read ok
-block 133 addr 0x800085000 pattern 0xAAAAAAAA write ok read ok
-block 134 addr 0x800086000 pattern 0x55555555 write ok read ok
-block 134 addr 0x800086000 pattern 0xAAAAAAAA write ok read ok
-block 135 addr 0x800087000 pattern 0x55555555 write ok read ok
-block 135 addr 0x800087000 pattern 0xAAAAAAAA write ok read ok
-block 136 addr 0x800088000 pattern 0x55555555 write ok read ok
-block 136 addr 0x800088000 pattern 0xAAAAAAAA write ok read ok
-block 137 addr 0x800089000 pattern 0x55555555 write ok read ok
-block 137 addr 0x800089000 pattern 0xAAAAAAAA write ok read ok
-block 138 addr 0x80008A000 pattern 0x55555555 write ok read ok
-block 138 addr 0x80008A000 pattern 0xAAAAAAAA write ok read ok
-block 139 addr 0x80008B000 pattern 0x55555555 write ok read ok
-block 139 addr 0x80008B000 pattern 0xAAAAAAAA write ok read ok
-block 140 addr 0x80008C000 pattern 0x55555555 write ok read ok
-block 140 addr 0x80008C000 pattern 0xAAAAAAAA write ok read ok
-block 141 addr 0x80008D000 pattern 0x55555555 write ok read ok
-block 141 addr 0x80008D000 pattern 0xAAAAAAAA write ok read ok
-block 142 addr 0x80008E000 pattern 0x55555555 write ok read ok
-block 142 addr 0x80008E000 pattern 0xAAAAAAAA write ok read ok
-block 143 addr 0x80008F000 pattern 0x55555555 write ok read ok
-block 143 addr 0x80008F000 pattern 0xAAAAAAAA write ok read ok
-block 144 addr 0x800090000 pattern 0x55555555 write ok read ok
-block 144 addr 0x800090000 pattern 0xAAAAAAAA write ok read ok
-block 145 addr 0x800091000 pattern 0x55555555 write ok read ok
-block 145 addr 0x800091000 pattern 0xAAAAAAAA write ok read ok
-block 146 addr 0x800092000 pattern 0x55555555 write ok read ok
-block 146 addr 0x800092000 pattern 0xAAAAAAAA write ok read ok
-block 147 addr 0x800093000 pattern 0x55555555 write ok read ok
-block 147 addr 0x800093000 pattern 0xAAAAAAAA write ok read ok
-block 148 addr 0x800094000 pattern 0x55555555 write ok read ok
-block 148 addr 0x800094000 pattern 0xAAAAAAAA write ok read ok
-block 149 addr 0x800095000 pattern 0x55555555 write ok read ok
-block 149 addr 0x800095000 pattern 0xAAAAAAAA write ok read ok
-block 150 addr 0x800096000 pattern 0x55555555 write ok read ok
-block 150 addr 0x800096000 pattern 0xAAAAAAAA write ok read ok
-block 151 addr 0x800097000 pattern 0x55555555 write ok read ok
-block 151 addr 0x800097000 pattern 0xAAAAAAAA write ok read ok
-block 152 addr 0x800098000 pattern 0x55555555 write ok read ok
-block 152 addr 0x800098000 pattern 0xAAAAAAAA write ok read ok
-block 153 addr 0x800099000 pattern 0x55555555 write ok read ok
-block 153 addr 0x800099000 pattern 0xAAAAAAAA write ok read ok
-block 154 addr 0x80009A000 pattern 0x55555555 write ok read ok
-block 154 addr 0x80009A000 pattern 0xAAAAAAAA write ok read ok
-block 155 addr 0x80009B000 pattern 0x55555555 write ok read ok
-block 155 addr 0x80009B000 pattern 0xAAAAAAAA write ok read ok
-block 156 addr 0x80009C000 pattern 0x55555555 write ok read ok
-block 156 addr 0x80009C000 pattern 0xAAAAAAAA write ok read ok
-block 157 addr 0x80009D000 pattern 0x55555555 write ok read ok
-block 157 addr 0x80009D000 pattern 0xAAAAAAAA write ok read ok
-block 158 addr 0x80009E000 pattern 0x55555555 write ok read ok
-block 158 addr 0x80009E000 pattern 0xAAAAAAAA write ok read ok
-block 159 addr 0x80009F000 pattern 0x55555555 write ok read ok
-block 159 addr 0x80009F000 pattern 0xAAAAAAAA write ok read ok
-block 160 addr 0x8000A0000 pattern 0x55555555 write ok read ok
-block 160 addr 0x8000A0000 pattern 0xAAAAAAAA write ok read ok
-block 161 addr 0x8000A1000 pattern 0x55555555 write ok read ok
-block 161 addr 0x8000A1000 pattern 0xAAAAAAAA write ok read ok
-block 162 addr 0x8000A2000 pattern 0x55555555 write ok read ok
-block 162 addr 0x8000A2000 pattern 0xAAAAAAAA write ok read ok
-block 163 addr 0x8000A3000 pattern 0x55555555 write ok read ok
-block 163 addr 0x8000A3000 pattern 0xAAAAAAAA write ok read ok
-block 164 addr 0x8000A4000 pattern 0x55555555 write ok read ok
-block 164 addr 0x8000A4000 pattern 0xAAAAAAAA write ok read ok
-block 165 addr 0x8000A5000 pattern 0x55555555 write ok read ok
-block 165 addr 0x8000A5000 pattern 0xAAAAAAAA write ok read ok
-block 166 addr 0x8000A6000 pattern 0x55555555 write ok read ok
-block 166 addr 0x8000A6000 pattern 0xAAAAAAAA write ok read ok
-block 167 addr 0x8000A7000 pattern 0x55555555 write ok read ok
-block 167 addr 0x8000A7000 pattern 0xAAAAAAAA write ok read ok
-block 168 addr 0x8000A8000 pattern 0x55555555 write ok read ok
-block 168 addr 0x8000A8000 pattern 0xAAAAAAAA write ok read ok
-block 169 addr 0x8000A9000 pattern 0x55555555 write ok read ok
-block 169 addr 0x8000A9000 pattern 0xAAAAAAAA write ok read ok
-block 170 addr 0x8000AA000 pattern 0x55555555 write ok read ok
-block 170 addr 0x8000AA000 pattern 0xAAAAAAAA write ok read ok
-block 171 addr 0x8000AB000 pattern 0x55555555 write ok read ok
-block 171 addr 0x8000AB000 pattern 0xAAAAAAAA write ok read ok
-block 172 addr 0x8000AC000 pattern 0x55555555 write ok read ok
-block 172 addr 0x8000AC000 pattern 0xAAAAAAAA write ok read ok
-block 173 addr 0x8000AD000 pattern 0x55555555 write ok read ok
-block 173 addr 0x8000AD000 pattern 0xAAAAAAAA write ok read ok
-block 174 addr 0x8000AE000 pattern 0x55555555 write ok read ok
-block 174 addr 0x8000AE000 pattern 0xAAAAAAAA write ok read ok
-block 175 addr 0x8000AF000 pattern 0x55555555 write ok read ok
-block 175 addr 0x8000AF000 pattern 0xAAAAAAAA write ok read ok
-block 176 addr 0x8000B0000 pattern 0x55555555 write ok read ok
-block 176 addr 0x8000B0000 pattern 0xAAAAAAAA write ok read ok
-block 177 addr 0x8000B1000 pattern 0x55555555 write ok read ok
-block 177 addr 0x8000B1000 pattern 0xAAAAAAAA write ok read ok
-block 178 addr 0x8000B2000 pattern 0x55555555 write ok read ok
-block 178 addr 0x8000B2000 pattern 0xAAAAAAAA write ok read ok
-block 179 addr 0x8000B3000 pattern 0x55555555 write ok read ok
-block 179 addr 0x8000B3000 pattern 0xAAAAAAAA write ok read ok
-block 180 addr 0x8000B4000 pattern 0x55555555 write ok read ok
-block 180 addr 0x8000B4000 pattern 0xAAAAAAAA write ok read ok
-block 181 addr 0x8000B5000 pattern 0x55555555 write ok read ok
-block 181 addr 0x8000B5000 pattern 0xAAAAAAAA write ok read ok
-block 182 addr 0x8000B6000 pattern 0x55555555 write ok read ok
-block 182 addr 0x8000B6000 pattern 0xAAAAAAAA write ok read ok
-block 183 addr 0x8000B7000 pattern 0x55555555 write ok read ok
-block 183 addr 0x8000B7000 pattern 0xAAAAAAAA write ok read ok
-block 184 addr 0x8000B8000 pattern 0x55555555 write ok read ok
-block 184 addr 0x8000B8000 pattern 0xAAAAAAAA write ok read ok
-block 185 addr 0x8000B9000 pattern 0x55555555 write ok read ok
-block 185 addr 0x8000B9000 pattern 0xAAAAAAAA write ok read ok
-block 186 addr 0x8000BA000 pattern 0x55555555 write ok read ok
-block 186 addr 0x8000BA000 pattern 0xAAAAAAAA write ok read ok
-block 187 addr 0x8000BB000 pattern 0x55555555 write ok read ok
-block 187 addr 0x8000BB000 pattern 0xAAAAAAAA write ok read ok
-block 188 addr 0x8000BC000 pattern 0x55555555 write ok read ok
-block 188 addr 0x8000BC000 pattern 0xAAAAAAAA write ok read ok
-block 189 addr 0x8000BD000 pattern 0x55555555 write ok read ok
-block 189 addr 0x8000BD000 pattern 0xAAAAAAAA write ok read ok
-block 190 addr 0x8000BE000 pattern 0x55555555 write ok read ok
-block 190 addr 0x8000BE000 pattern 0xAAAAAAAA write ok read ok
-block 191 addr 0x8000BF000 pattern 0x55555555 write ok read ok
-block 191 addr 0x8000BF000 pattern 0xAAAAAAAA write ok read ok
-block 192 addr 0x8000C0000 pattern 0x55555555 write ok read ok
-block 192 addr 0x8000C0000 pattern 0xAAAAAAAA write ok read ok
-block 193 addr 0x8000C1000 pattern 0x55555555 write ok read ok
-block 193 addr 0x8000C1000 pattern 0xAAAAAAAA write ok read ok
-block 194 addr 0x8000C2000 pattern 0x55555555 write ok read ok
-block 194 addr 0x8000C2000 pattern 0xAAAAAAAA write ok read ok
-block 195 addr 0x8000C3000 pattern 0x55555555 write ok read ok
-block 195 addr 0x8000C3000 pattern 0xAAAAAAAA write ok read ok
-block 196 addr 0x8000C4000 pattern 0x55555555 write ok read ok
-block 196 addr 0x8000C4000 pattern 0xAAAAAAAA write ok read ok
-block 197 addr 0x8000C5000 pattern 0x55555555 write ok read ok
-block 197 addr 0x8000C5000 pattern 0xAAAAAAAA write ok read ok
-block 198 addr 0x8000C6000 pattern 0x55555555 write ok read ok
-block 198 addr 0x8000C6000 pattern 0xAAAAAAAA write ok read ok
-block 199 addr 0x8000C7000 pattern 0x55555555 write ok read ok
-block 199 addr 0x8000C7000 pattern 0xAAAAAAAA write ok read ok
-block 200 addr 0x8000C8000 pattern 0x55555555 write ok read ok
-block 200 addr 0x8000C8000 pattern 0xAAAAAAAA write ok read ok
-block 201 addr 0x8000C9000 pattern 0x55555555 write ok read ok
-block 201 addr 0x8000C9000 pattern 0xAAAAAAAA write ok read ok
-block 202 addr 0x8000CA000 pattern 0x55555555 write ok read ok
-block 202 addr 0x8000CA000 pattern 0xAAAAAAAA write ok read ok
-block 203 addr 0x8000CB000 pattern 0x55555555 write ok read ok
-block 203 addr 0x8000CB000 pattern 0xAAAAAAAA write ok read ok
-block 204 addr 0x8000CC000 pattern 0x55555555 write ok read ok
-block 204 addr 0x8000CC000 pattern 0xAAAAAAAA write ok read ok
-block 205 addr 0x8000CD000 pattern 0x55555555 write ok read ok
-block 205 addr 0x8000CD000 pattern 0xAAAAAAAA write ok read ok
-block 206 addr 0x8000CE000 pattern 0x55555555 write ok read ok
-block 206 addr 0x8000CE000 pattern 0xAAAAAAAA write ok read ok
-block 207 addr 0x8000CF000 pattern 0x55555555 write ok read ok
-block 207 addr 0x8000CF000 pattern 0xAAAAAAAA write ok read ok
-block 208 addr 0x8000D0000 pattern 0x55555555 write ok read ok
-block 208 addr 0x8000D0000 pattern 0xAAAAAAAA write ok read ok
-block 209 addr 0x8000D1000 pattern 0x55555555 write ok read ok
-block 209 addr 0x8000D1000 pattern 0xAAAAAAAA write ok read ok
-block 210 addr 0x8000D2000 pattern 0x55555555 write ok read ok
-block 210 addr 0x8000D2000 pattern 0xAAAAAAAA write ok read ok
-block 211 addr 0x8000D3000 pattern 0x55555555 write ok read ok
-block 211 addr 0x8000D3000 pattern 0xAAAAAAAA write ok read ok
-block 212 addr 0x8000D4000 pattern 0x55555555 write ok read ok
-block 212 addr 0x8000D4000 pattern 0xAAAAAAAA write ok read ok
-block 213 addr 0x8000D5000 pattern 0x55555555 write ok read ok
-block 213 addr 0x8000D5000 pattern 0xAAAAAAAA write ok read ok
-block 214 addr 0x8000D6000 pattern 0x55555555 write ok read ok
-block 214 addr 0x8000D6000 pattern 0xAAAAAAAA write ok read ok
-block 215 addr 0x8000D7000 pattern 0x55555555 write ok read ok
-block 215 addr 0x8000D7000 pattern 0xAAAAAAAA write ok read ok
-block 216 addr 0x8000D8000 pattern 0x55555555 write ok read ok
-block 216 addr 0x8000D8000 pattern 0xAAAAAAAA write ok read ok
-block 217 addr 0x8000D9000 pattern 0x55555555 write ok read ok
-block 217 addr 0x8000D9000 pattern 0xAAAAAAAA write ok read ok
-block 218 addr 0x8000DA000 pattern 0x55555555 write ok read ok
-block 218 addr 0x8000DA000 pattern 0xAAAAAAAA write ok read ok
-block 219 addr 0x8000DB000 pattern 0x55555555 write ok read ok
-block 219 addr 0x8000DB000 pattern 0xAAAAAAAA write ok read ok
-block 220 addr 0x8000DC000 pattern 0x55555555 write ok read ok
-block 220 addr 0x8000DC000 pattern 0xAAAAAAAA write ok read ok
-block 221 addr 0x8000DD000 pattern 0x55555555 write ok read ok
-block 221 addr 0x8000DD000 pattern 0xAAAAAAAA write ok read ok
-block 222 addr 0x8000DE000 pattern 0x55555555 write ok read ok
-block 222 addr 0x8000DE000 pattern 0xAAAAAAAA write ok read ok
-block 223 addr 0x8000DF000 pattern 0x55555555 write ok read ok
-block 223 addr 0x8000DF000 pattern 0xAAAAAAAA write ok read ok
-block 224 addr 0x8000E0000 pattern 0x55555555 write ok read ok
-block 224 addr 0x8000E0000 pattern 0xAAAAAAAA write ok read ok
-block 225 addr 0x8000E1000 pattern 0x55555555 write ok read ok
-block 225 addr 0x8000E1000 pattern 0xAAAAAAAA write ok read ok
-block 226 addr 0x8000E2000 pattern 0x55555555 write ok read ok
-block 226 addr 0x8000E2000 pattern 0xAAAAAAAA write ok read ok
-block 227 addr 0x8000E3000 pattern 0x55555555 write ok read ok
-block 227 addr 0x8000E3000 pattern 0xAAAAAAAA write ok read ok
-block 228 addr 0x8000E4000 pattern 0x55555555 write ok read ok
-block 228 addr 0x8000E4000 pattern 0xAAAAAAAA write ok read ok
-block 229 addr 0x8000E5000 pattern 0x55555555 write ok read ok
-block 229 addr 0x8000E5000 pattern 0xAAAAAAAA write ok read ok
-block 230 addr 0x8000E6000 pattern 0x55555555 write ok read ok
-block 230 addr 0x8000E6000 pattern 0xAAAAAAAA write ok read ok
-block 231 addr 0x8000E7000 pattern 0x55555555 write ok read ok
-block 231 addr 0x8000E7000 pattern 0xAAAAAAAA write ok read ok
-block 232 addr 0x8000E8000 pattern 0x55555555 write ok read ok
-block 232 addr 0x8000E8000 pattern 0xAAAAAAAA write ok read ok
-block 233 addr 0x8000E9000 pattern 0x55555555 write ok read ok
-block 233 addr 0x8000E9000 pattern 0xAAAAAAAA write ok read ok
-block 234 addr 0x8000EA000 pattern 0x55555555 write ok read ok
-block 234 addr 0x8000EA000 pattern 0xAAAAAAAA write ok read ok
-block 235 addr 0x8000EB000 pattern 0x55555555 write ok read ok
-block 235 addr 0x8000EB000 pattern 0xAAAAAAAA write ok read ok
-block 236 addr 0x8000EC000 pattern 0x55555555 write ok read ok
-block 236 addr 0x8000EC000 pattern 0xAAAAAAAA write ok read ok
-block 237 addr 0x8000ED000 pattern 0x55555555 write ok read ok
-block 237 addr 0x8000ED000 pattern 0xAAAAAAAA write ok read ok
-block 238 addr 0x8000EE000 pattern 0x55555555 write ok read ok
-block 238 addr 0x8000EE000 pattern 0xAAAAAAAA write ok read ok
-block 239 addr 0x8000EF000 pattern 0x55555555 write ok read ok
-block 239 addr 0x8000EF000 pattern 0xAAAAAAAA write ok read ok
-block 240 addr 0x8000F0000 pattern 0x55555555 write ok read ok
-block 240 addr 0x8000F0000 pattern 0xAAAAAAAA write ok read ok
-block 241 addr 0x8000F1000 pattern 0x55555555 write ok read ok
-block 241 addr 0x8000F1000 pattern 0xAAAAAAAA write ok read ok
-block 242 addr 0x8000F2000 pattern 0x55555555 write ok read ok
-block 242 addr 0x8000F2000 pattern 0xAAAAAAAA write ok read ok
-block 243 addr 0x8000F3000 pattern 0x55555555 write ok read ok
-block 243 addr 0x8000F3000 pattern 0xAAAAAAAA write ok read ok
-block 244 addr 0x8000F4000 pattern 0x55555555 write ok read ok
-block 244 addr 0x8000F4000 pattern 0xAAAAAAAA write ok read ok
-block 245 addr 0x8000F5000 pattern 0x55555555 write ok read ok
-block 245 addr 0x8000F5000 pattern 0xAAAAAAAA write ok read ok
-block 246 addr 0x8000F6000 pattern 0x55555555 write ok read ok
-block 246 addr 0x8000F6000 pattern 0xAAAAAAAA write ok read ok
-block 247 addr 0x8000F7000 pattern 0x55555555 write ok read ok
-block 247 addr 0x8000F7000 pattern 0xAAAAAAAA write ok read ok
-block 248 addr 0x8000F8000 pattern 0x55555555 write ok read ok
-block 248 addr 0x8000F8000 pattern 0xAAAAAAAA write ok read ok
-block 249 addr 0x8000F9000 pattern 0x55555555 write ok read ok
-block 249 addr 0x8000F9000 pattern 0xAAAAAAAA write ok read ok
-block 250 addr 0x8000FA000 pattern 0x55555555 write ok read ok
-block 250 addr 0x8000FA000 pattern 0xAAAAAAAA write ok read ok
-block 251 addr 0x8000FB000 pattern 0x55555555 write ok read ok
-block 251 addr 0x8000FB000 pattern 0xAAAAAAAA write ok read ok
-block 252 addr 0x8000FC000 pattern 0x55555555 write ok read ok
-block 252 addr 0x8000FC000 pattern 0xAAAAAAAA write ok read ok
-block 253 addr 0x8000FD000 pattern 0x55555555 write ok read ok
-block 253 addr 0x8000FD000 pattern 0xAAAAAAAA write ok read ok
-block 254 addr 0x8000FE000 pattern 0x55555555 write ok read ok
-block 254 addr 0x8000FE000 pattern 0xAAAAAAAA write ok read ok
-block 255 addr 0x8000FF000 pattern 0x55555555 write ok read ok
-block 255 addr 0x8000FF000 pattern 0xAAAAAAAA write ok read ok
-testmemory --1MB: Passed
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
 INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 8 Plus', 'baseband --off',
 replace('
 baseband --off', char(10), char(13, 10)) || char(13) || replace('
@@ -11671,6 +7453,66 @@ replace('
 buckcheck 5', char(10), char(13, 10)) || char(13) || replace('
 buckcheck starting, please wait
 buck5 target 1060 mV measured 1064.191 mV PASS
+[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
+'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 8 Plus', 'BUTTONCNT --DQE',
+replace('
+BUTTONCNT --DQE', char(10), char(13, 10)) || char(13) || replace('
+Button count test running, results on the device screen
+Send /q to quit
+[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
+'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 8 Plus', 'Help',
+replace('
+Help', char(10), char(13, 10)) || char(13) || replace('
+Available commands (type <command> --help for options):
+  accel          diagnostics command accel: run, read or control the accel block of the board
+  als            diagnostics command als: run, read or control the als block of the board
+  audio          diagnostics command audio: run, read or control the audio block of the board
+  baseband       diagnostics command baseband: run, read or control the baseband block of the board
+  battery        diagnostics command battery: run, read or control the battery block of the board
+  bl             diagnostics command bl: run, read or control the bl block of the board
+  bluetooth      diagnostics command bluetooth: run, read or control the bluetooth block of the board
+  buck           diagnostics command buck: run, read or control the buck block of the board
+  buckcheck      diagnostics command buckcheck: run, read or control the buckcheck block of the board
+  buttoncnt      diagnostics command buttoncnt: run, read or control the buttoncnt block of the board
+  camisp         diagnostics command camisp: run, read or control the camisp block of the board
+  charge         diagnostics command charge: run, read or control the charge block of the board
+  compass        diagnostics command compass: run, read or control the compass block of the board
+  consoleinit    diagnostics command consoleinit: run, read or control the consoleinit block of the board
+  device         diagnostics command device: run, read or control the device block of the board
+  diags          diagnostics command diags: run, read or control the diags block of the board
+  display        diagnostics command display: run, read or control the display block of the board
+  dock           diagnostics command dock: run, read or control the dock block of the board
+  exit           diagnostics command exit: run, read or control the exit block of the board
+  gps            diagnostics command gps: run, read or control the gps block of the board
+  gyro           diagnostics command gyro: run, read or control the gyro block of the board
+  help           diagnostics command help: run, read or control the help block of the board
+  hydra          diagnostics command hydra: run, read or control the hydra block of the board
+  i2c            diagnostics command i2c: run, read or control the i2c block of the board
+  mic            diagnostics command mic: run, read or control the mic block of the board
+  nand           diagnostics command nand: run, read or control the nand block of the board
+  nandsize       diagnostics command nandsize: run, read or control the nandsize block of the board
+  nanduid        diagnostics command nanduid: run, read or control the nanduid block of the board
+  pmuadc         diagnostics command pmuadc: run, read or control the pmuadc block of the board
+  pmureg         diagnostics command pmureg: run, read or control the pmureg block of the board
+  prox           diagnostics command prox: run, read or control the prox block of the board
+  reset          diagnostics command reset: run, read or control the reset block of the board
+  rtc            diagnostics command rtc: run, read or control the rtc block of the board
+  sensor         diagnostics command sensor: run, read or control the sensor block of the board
+  shutdown       diagnostics command shutdown: run, read or control the shutdown block of the board
+  smokey         diagnostics command smokey: run, read or control the smokey block of the board
+  soc            diagnostics command soc: run, read or control the soc block of the board
+  speaker        diagnostics command speaker: run, read or control the speaker block of the board
+  syscfg         diagnostics command syscfg: run, read or control the syscfg block of the board
+  temp           diagnostics command temp: run, read or control the temp block of the board
+  testmemory     diagnostics command testmemory: run, read or control the testmemory block of the board
+  touch          diagnostics command touch: run, read or control the touch block of the board
+  tristar        diagnostics command tristar: run, read or control the tristar block of the board
+  usb            diagnostics command usb: run, read or control the usb block of the board
+  version        diagnostics command version: run, read or control the version block of the board
+  vibrator       diagnostics command vibrator: run, read or control the vibrator block of the board
+  wifi           diagnostics command wifi: run, read or control the wifi block of the board
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
 INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 8 Plus', 'i2c -s 0',
@@ -11830,6 +7672,12 @@ tigris vldo : 1812.271 mV
 tigris vntc : 623.461 mV
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 8 Plus', 'Reset',
+replace('
+Reset', char(10), char(13, 10)) || char(13) || replace('
+Resetting device...
+[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
+'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
 INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 8 Plus', 'syscfg list',
 replace('
 syscfg list', char(10), char(13, 10)) || char(13) || replace('
@@ -11922,9 +7770,9 @@ memory test random       Passed
 testmemory: Passed
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 8 Plus', 'testmemory --1MB',
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 8 Plus', 'TESTMEMORY --1MB',
 replace('
-testmemory --1MB', char(10), char(13, 10)) || char(13) || replace('
+TESTMEMORY --1MB', char(10), char(13, 10)) || char(13) || replace('
 testmemory 1MB read/write, 256 blocks of 4 KiB
 block   0 addr 0x800000000 pattern 0x55555555 write ok read ok
 block   0 addr 0x800000000 pattern 0xAAAAAAAA write ok read ok
@@ -12538,591 +8386,6 @@ replace('
 Button count test ended
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP X', 'BUTTONCNT --DQE',
-replace('
-BUTTONCNT --DQE', char(10), char(13, 10)) || char(13) || replace('
-Button count test running, results on the device screen
-Send /q to quit
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP X', 'Help',
-replace('
-Help', char(10), char(13, 10)) || char(13) || replace('
-Available commands (type <command> --help for options):
-  accel          diagnostics command accel: run, read or control the accel block of the board
-  als            diagnostics command als: run, read or control the als block of the board
-  audio          diagnostics command audio: run, read or control the audio block of the board
-  baseband       diagnostics command baseband: run, read or control the baseband block of the board
-  battery        diagnostics command battery: run, read or control the battery block of the board
-  bl             diagnostics command bl: run, read or control the bl block of the board
-  bluetooth      diagnostics command bluetooth: run, read or control the bluetooth block of the board
-  buck           diagnostics command buck: run, read or control the buck block of the board
-  buckcheck      diagnostics command buckcheck: run, read or control the buckcheck block of the board
-  buttoncnt      diagnostics command buttoncnt: run, read or control the buttoncnt block of the board
-  camisp         diagnostics command camisp: run, read or control the camisp block of the board
-  charge         diagnostics command charge: run, read or control the charge block of the board
-  compass        diagnostics command compass: run, read or control the compass block of the board
-  consoleinit    diagnostics command consoleinit: run, read or control the consoleinit block of the board
-  device         diagnostics command device: run, read or control the device block of the board
-  diags          diagnostics command diags: run, read or control the diags block of the board
-  display        diagnostics command display: run, read or control the display block of the board
-  dock           diagnostics command dock: run, read or control the dock block of the board
-  exit           diagnostics command exit: run, read or control the exit block of the board
-  gps            diagnostics command gps: run, read or control the gps block of the board
-  gyro           diagnostics command gyro: run, read or control the gyro block of the board
-  help           diagnostics command help: run, read or control the help block of the board
-  hydra          diagnostics command hydra: run, read or control the hydra block of the board
-  i2c            diagnostics command i2c: run, read or control the i2c block of the board
-  mic            diagnostics command mic: run, read or control the mic block of the board
-  nand           diagnostics command nand: run, read or control the nand block of the board
-  nandsize       diagnostics command nandsize: run, read or control the nandsize block of the board
-  nanduid        diagnostics command nanduid: run, read or control the nanduid block of the board
-  pmuadc         diagnostics command pmuadc: run, read or control the pmuadc block of the board
-  pmureg         diagnostics command pmureg: run, read or control the pmureg block of the board
-  prox           diagnostics command prox: run, read or control the prox block of the board
-  reset          diagnostics command reset: run, read or control the reset block of the board
-  rtc            diagnostics command rtc: run, read or control the rtc block of the board
-  sensor         diagnostics command sensor: run, read or control the sensor block of the board
-  shutdown       diagnostics command shutdown: run, read or control the shutdown block of the board
-  smokey         diagnostics command smokey: run, read or control the smokey block of the board
-  soc            diagnostics command soc: run, read or control the soc block of the board
-  speaker        diagnostics command speaker: run, read or control the speaker block of the board
-  syscfg         diagnostics command syscfg: run, read or control the syscfg block of the board
-  temp           diagnostics command temp: run, read or control the temp block of the board
-  testmemory     diagnostics command testmemory: run, read or control the testmemory block of the board
-  touch          diagnostics command touch: run, read or control the touch block of the board
-  tristar        diagnostics command tristar: run, read or control the tristar block of the board
-  usb            diagnostics command usb: run, read or control the usb block of the board
-  version        diagnostics command version: run, read or control the version block of the board
-  vibrator       diagnostics command vibrator: run, read or control the vibrator block of the board
-  wifi           diagnostics command wifi: run, read or control the wifi block of the board
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP X', 'Reset',
-replace('
-Reset', char(10), char(13, 10)) || char(13) || replace('
-Resetting device...
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP X', 'TESTMEMORY --1MB',
-replace('
-TESTMEMORY --1MB', char(10), char(13, 10)) || char(13) || replace('
-testmemory 1MB read/write, 256 blocks of 4 KiB
-block   0 addr 0x800000000 pattern 0x55555555 write ok read ok
-block   0 addr 0x800000000 pattern 0xAAAAAAAA write ok read ok
-block   1 addr 0x800001000 pattern 0x55555555 write ok read ok
-block   1 addr 0x800001000 pattern 0xAAAAAAAA write ok read ok
-block   2 addr 0x800002000 pattern 0x55555555 write ok read ok
-block   2 addr 0x800002000 pattern 0xAAAAAAAA write ok read ok
-block   3 addr 0x800003000 pattern 0x55555555 write ok read ok
-block   3 addr 0x800003000 pattern 0xAAAAAAAA write ok read ok
-block   4 addr 0x800004000 pattern 0x55555555 write ok read ok
-block   4 addr 0x800004000 pattern 0xAAAAAAAA write ok read ok
-block   5 addr 0x800005000 pattern 0x55555555 write ok read ok
-block   5 addr 0x800005000 pattern 0xAAAAAAAA write ok read ok
-block   6 addr 0x800006000 pattern 0x55555555 write ok read ok
-block   6 addr 0x800006000 pattern 0xAAAAAAAA write ok read ok
-block   7 addr 0x800007000 pattern 0x55555555 write ok read ok
-block   7 addr 0x800007000 pattern 0xAAAAAAAA write ok read ok
-block   8 addr 0x800008000 pattern 0x55555555 write ok read ok
-block   8 addr 0x800008000 pattern 0xAAAAAAAA write ok read ok
-block   9 addr 0x800009000 pattern 0x55555555 write ok read ok
-block   9 addr 0x800009000 pattern 0xAAAAAAAA write ok read ok
-block  10 addr 0x80000A000 pattern 0x55555555 write ok read ok
-block  10 addr 0x80000A000 pattern 0xAAAAAAAA write ok read ok
-block  11 addr 0x80000B000 pattern 0x55555555 write ok read ok
-block  11 addr 0x80000B000 pattern 0xAAAAAAAA write ok read ok
-block  12 addr 0x80000C000 pattern 0x55555555 write ok read ok
-block  12 addr 0x80000C000 pattern 0xAAAAAAAA write ok read ok
-block  13 addr 0x80000D000 pattern 0x55555555 write ok read ok
-block  13 addr 0x80000D000 pattern 0xAAAAAAAA write ok read ok
-block  14 addr 0x80000E000 pattern 0x55555555 write ok read ok
-block  14 addr 0x80000E000 pattern 0xAAAAAAAA write ok read ok
-block  15 addr 0x80000F000 pattern 0x55555555 write ok read ok
-block  15 addr 0x80000F000 pattern 0xAAAAAAAA write ok read ok
-block  16 addr 0x800010000 pattern 0x55555555 write ok read ok
-block  16 addr 0x800010000 pattern 0xAAAAAAAA write ok read ok
-block  17 addr 0x800011000 pattern 0x55555555 write ok read ok
-block  17 addr 0x800011000 pattern 0xAAAAAAAA write ok read ok
-block  18 addr 0x800012000 pattern 0x55555555 write ok read ok
-block  18 addr 0x800012000 pattern 0xAAAAAAAA write ok read ok
-block  19 addr 0x800013000 pattern 0x55555555 write ok read ok
-block  19 addr 0x800013000 pattern 0xAAAAAAAA write ok read ok
-block  20 addr 0x800014000 pattern 0x55555555 write ok read ok
-block  20 addr 0x800014000 pattern 0xAAAAAAAA write ok read ok
-block  21 addr 0x800015000 pattern 0x55555555 write ok read ok
-block  21 addr 0x800015000 pattern 0xAAAAAAAA write ok read ok
-block  22 addr 0x800016000 pattern 0x55555555 write ok read ok
-block  22 addr 0x800016000 pattern 0xAAAAAAAA write ok read ok
-block  23 addr 0x800017000 pattern 0x55555555 write ok read ok
-block  23 addr 0x800017000 pattern 0xAAAAAAAA write ok read ok
-block  24 addr 0x800018000 pattern 0x55555555 write ok read ok
-block  24 addr 0x800018000 pattern 0xAAAAAAAA write ok read ok
-block  25 addr 0x800019000 pattern 0x55555555 write ok read ok
-block  25 addr 0x800019000 pattern 0xAAAAAAAA write ok read ok
-block  26 addr 0x80001A000 pattern 0x55555555 write ok read ok
-block  26 addr 0x80001A000 pattern 0xAAAAAAAA write ok read ok
-block  27 addr 0x80001B000 pattern 0x55555555 write ok read ok
-block  27 addr 0x80001B000 pattern 0xAAAAAAAA write ok read ok
-block  28 addr 0x80001C000 pattern 0x55555555 write ok read ok
-block  28 addr 0x80001C000 pattern 0xAAAAAAAA write ok read ok
-block  29 addr 0x80001D000 pattern 0x55555555 write ok read ok
-block  29 addr 0x80001D000 pattern 0xAAAAAAAA write ok read ok
-block  30 addr 0x80001E000 pattern 0x55555555 write ok read ok
-block  30 addr 0x80001E000 pattern 0xAAAAAAAA write ok read ok
-block  31 addr 0x80001F000 pattern 0x55555555 write ok read ok
-block  31 addr 0x80001F000 pattern 0xAAAAAAAA write ok read ok
-block  32 addr 0x800020000 pattern 0x55555555 write ok read ok
-block  32 addr 0x800020000 pattern 0xAAAAAAAA write ok read ok
-block  33 addr 0x800021000 pattern 0x55555555 write ok read ok
-block  33 addr 0x800021000 pattern 0xAAAAAAAA write ok read ok
-block  34 addr 0x800022000 pattern 0x55555555 write ok read ok
-block  34 addr 0x800022000 pattern 0xAAAAAAAA write ok read ok
-block  35 addr 0x800023000 pattern 0x55555555 write ok read ok
-block  35 addr 0x800023000 pattern 0xAAAAAAAA write ok read ok
-block  36 addr 0x800024000 pattern 0x55555555 write ok read ok
-block  36 addr 0x800024000 pattern 0xAAAAAAAA write ok read ok
-block  37 addr 0x800025000 pattern 0x55555555 write ok read ok
-block  37 addr 0x800025000 pattern 0xAAAAAAAA write ok read ok
-block  38 addr 0x800026000 pattern 0x55555555 write ok read ok
-block  38 addr 0x800026000 pattern 0xAAAAAAAA write ok read ok
-block  39 addr 0x800027000 pattern 0x55555555 write ok read ok
-block  39 addr 0x800027000 pattern 0xAAAAAAAA write ok read ok
-block  40 addr 0x800028000 pattern 0x55555555 write ok read ok
-block  40 addr 0x800028000 pattern 0xAAAAAAAA write ok read ok
-block  41 addr 0x800029000 pattern 0x55555555 write ok read ok
-block  41 addr 0x800029000 pattern 0xAAAAAAAA write ok read ok
-block  42 addr 0x80002A000 pattern 0x55555555 write ok read ok
-block  42 addr 0x80002A000 pattern 0xAAAAAAAA write ok read ok
-block  43 addr 0x80002B000 pattern 0x55555555 write ok read ok
-block  43 addr 0x80002B000 pattern 0xAAAAAAAA write ok read ok
-block  44 addr 0x80002C000 pattern 0x55555555 write ok read ok
-block  44 addr 0x80002C000 pattern 0xAAAAAAAA write ok read ok
-block  45 addr 0x80002D000 pattern 0x55555555 write ok read ok
-block  45 addr 0x80002D000 pattern 0xAAAAAAAA write ok read ok
-block  46 addr 0x80002E000 pattern 0x55555555 write ok read ok
-block  46 addr 0x80002E000 pattern 0xAAAAAAAA write ok read ok
-block  47 addr 0x80002F000 pattern 0x55555555 write ok read ok
-block  47 addr 0x80002F000 pattern 0xAAAAAAAA write ok read ok
-block  48 addr 0x800030000 pattern 0x55555555 write ok read ok
-block  48 addr 0x800030000 pattern 0xAAAAAAAA write ok read ok
-block  49 addr 0x800031000 pattern 0x55555555 write ok read ok
-block  49 addr 0x800031000 pattern 0xAAAAAAAA write ok read ok
-block  50 addr 0x800032000 pattern 0x55555555 write ok read ok
-block  50 addr 0x800032000 pattern 0xAAAAAAAA write ok read ok
-block  51 addr 0x800033000 pattern 0x55555555 write ok read ok
-block  51 addr 0x800033000 pattern 0xAAAAAAAA write ok read ok
-block  52 addr 0x800034000 pattern 0x55555555 write ok read ok
-block  52 addr 0x800034000 pattern 0xAAAAAAAA write ok read ok
-block  53 addr 0x800035000 pattern 0x55555555 write ok read ok
-block  53 addr 0x800035000 pattern 0xAAAAAAAA write ok read ok
-block  54 addr 0x800036000 pattern 0x55555555 write ok read ok
-block  54 addr 0x800036000 pattern 0xAAAAAAAA write ok read ok
-block  55 addr 0x800037000 pattern 0x55555555 write ok read ok
-block  55 addr 0x800037000 pattern 0xAAAAAAAA write ok read ok
-block  56 addr 0x800038000 pattern 0x55555555 write ok read ok
-block  56 addr 0x800038000 pattern 0xAAAAAAAA write ok read ok
-block  57 addr 0x800039000 pattern 0x55555555 write ok read ok
-block  57 addr 0x800039000 pattern 0xAAAAAAAA write ok read ok
-block  58 addr 0x80003A000 pattern 0x55555555 write ok read ok
-block  58 addr 0x80003A000 pattern 0xAAAAAAAA write ok read ok
-block  59 addr 0x80003B000 pattern 0x55555555 write ok read ok
-block  59 addr 0x80003B000 pattern 0xAAAAAAAA write ok read ok
-block  60 addr 0x80003C000 pattern 0x55555555 write ok read ok
-block  60 addr 0x80003C000 pattern 0xAAAAAAAA write ok read ok
-block  61 addr 0x80003D000 pattern 0x55555555 write ok read ok
-block  61 addr 0x80003D000 pattern 0xAAAAAAAA write ok read ok
-block  62 addr 0x80003E000 pattern 0x55555555 write ok read ok
-block  62 addr 0x80003E000 pattern 0xAAAAAAAA write ok read ok
-block  63 addr 0x80003F000 pattern 0x55555555 write ok read ok
-block  63 addr 0x80003F000 pattern 0xAAAAAAAA write ok read ok
-block  64 addr 0x800040000 pattern 0x55555555 write ok read ok
-block  64 addr 0x800040000 pattern 0xAAAAAAAA write ok read ok
-block  65 addr 0x800041000 pattern 0x55555555 write ok read ok
-block  65 addr 0x800041000 pattern 0xAAAAAAAA write ok read ok
-block  66 addr 0x800042000 pattern 0x55555555 write ok read ok
-block  66 addr 0x800042000 pattern 0xAAAAAAAA write ok read ok
-block  67 addr 0x800043000 pattern 0x55555555 write ok read ok
-block  67 addr 0x800043000 pattern 0xAAAAAAAA write ok read ok
-block  68 addr 0x800044000 pattern 0x55555555 write ok read ok
-block  68 addr 0x800044000 pattern 0xAAAAAAAA write ok read ok
-block  69 addr 0x800045000 pattern 0x55555555 write ok read ok
-block  69 addr 0x800045000 pattern 0xAAAAAAAA write ok read ok
-block  70 addr 0x800046000 pattern 0x55555555 write ok read ok
-block  70 addr 0x800046000 pattern 0xAAAAAAAA write ok read ok
-block  71 addr 0x800047000 pattern 0x55555555 write ok read ok
-block  71 addr 0x800047000 pattern 0xAAAAAAAA write ok read ok
-block  72 addr 0x800048000 pattern 0x55555555 write ok read ok
-block  72 addr 0x800048000 pattern 0xAAAAAAAA write ok read ok
-block  73 addr 0x800049000 pattern 0x55555555 write ok read ok
-block  73 addr 0x800049000 pattern 0xAAAAAAAA write ok read ok
-block  74 addr 0x80004A000 pattern 0x55555555 write ok read ok
-block  74 addr 0x80004A000 pattern 0xAAAAAAAA write ok read ok
-block  75 addr 0x80004B000 pattern 0x55555555 write ok read ok
-block  75 addr 0x80004B000 pattern 0xAAAAAAAA write ok read ok
-block  76 addr 0x80004C000 pattern 0x55555555 write ok read ok
-block  76 addr 0x80004C000 pattern 0xAAAAAAAA write ok read ok
-block  77 addr 0x80004D000 pattern 0x55555555 write ok read ok
-block  77 addr 0x80004D000 pattern 0xAAAAAAAA write ok read ok
-block  78 addr 0x80004E000 pattern 0x55555555 write ok read ok
-block  78 addr 0x80004E000 pattern 0xAAAAAAAA write ok read ok
-block  79 addr 0x80004F000 pattern 0x55555555 write ok read ok
-block  79 addr 0x80004F000 pattern 0xAAAAAAAA write ok read ok
-block  80 addr 0x800050000 pattern 0x55555555 write ok read ok
-block  80 addr 0x800050000 pattern 0xAAAAAAAA write ok read ok
-block  81 addr 0x800051000 pattern 0x55555555 write ok read ok
-block  81 addr 0x800051000 pattern 0xAAAAAAAA write ok read ok
-block  82 addr 0x800052000 pattern 0x55555555 write ok read ok
-block  82 addr 0x800052000 pattern 0xAAAAAAAA write ok read ok
-block  83 addr 0x800053000 pattern 0x55555555 write ok read ok
-block  83 addr 0x800053000 pattern 0xAAAAAAAA write ok read ok
-block  84 addr 0x800054000 pattern 0x55555555 write ok read ok
-block  84 addr 0x800054000 pattern 0xAAAAAAAA write ok read ok
-block  85 addr 0x800055000 pattern 0x55555555 write ok read ok
-block  85 addr 0x800055000 pattern 0xAAAAAAAA write ok read ok
-block  86 addr 0x800056000 pattern 0x55555555 write ok read ok
-block  86 addr 0x800056000 pattern 0xAAAAAAAA write ok read ok
-block  87 addr 0x800057000 pattern 0x55555555 write ok read ok
-block  87 addr 0x800057000 pattern 0xAAAAAAAA write ok read ok
-block  88 addr 0x800058000 pattern 0x55555555 write ok read ok
-block  88 addr 0x800058000 pattern 0xAAAAAAAA write ok read ok
-block  89 addr 0x800059000 pattern 0x55555555 write ok read ok
-block  89 addr 0x800059000 pattern 0xAAAAAAAA write ok read ok
-block  90 addr 0x80005A000 pattern 0x55555555 write ok read ok
-block  90 addr 0x80005A000 pattern 0xAAAAAAAA write ok read ok
-block  91 addr 0x80005B000 pattern 0x55555555 write ok read ok
-block  91 addr 0x80005B000 pattern 0xAAAAAAAA write ok read ok
-block  92 addr 0x80005C000 pattern 0x55555555 write ok read ok
-block  92 addr 0x80005C000 pattern 0xAAAAAAAA write ok read ok
-block  93 addr 0x80005D000 pattern 0x55555555 write ok read ok
-block  93 addr 0x80005D000 pattern 0xAAAAAAAA write ok read ok
-block  94 addr 0x80005E000 pattern 0x55555555 write ok read ok
-block  94 addr 0x80005E000 pattern 0xAAAAAAAA write ok read ok
-block  95 addr 0x80005F000 pattern 0x55555555 write ok read ok
-block  95 addr 0x80005F000 pattern 0xAAAAAAAA write ok read ok
-block  96 addr 0x800060000 pattern 0x55555555 write ok read ok
-block  96 addr 0x800060000 pattern 0xAAAAAAAA write ok read ok
-block  97 addr 0x800061000 pattern 0x55555555 write ok read ok
-block  97 addr 0x800061000 pattern 0xAAAAAAAA write ok read ok
-block  98 addr 0x800062000 pattern 0x55555555 write ok read ok
-block  98 addr 0x800062000 pattern 0xAAAAAAAA write ok read ok
-block  99 addr 0x800063000 pattern 0x55555555 write ok read ok
-block  99 addr 0x800063000 pattern 0xAAAAAAAA write ok read ok
-block 100 addr 0x800064000 pattern 0x55555555 write ok read ok
-block 100 addr 0x800064000 pattern 0xAAAAAAAA write ok read ok
-block 101 addr 0x800065000 pattern 0x55555555 write ok read ok
-block 101 addr 0x800065000 pattern 0xAAAAAAAA write ok read ok
-block 102 addr 0x800066000 pattern 0x55555555 write ok read ok
-block 102 addr 0x800066000 pattern 0xAAAAAAAA write ok read ok
-block 103 addr 0x800067000 pattern 0x55555555 write ok read ok
-block 103 addr 0x800067000 pattern 0xAAAAAAAA write ok read ok
-block 104 addr 0x800068000 pattern 0x55555555 write ok read ok
-block 104 addr 0x800068000 pattern 0xAAAAAAAA write ok read ok
-block 105 addr 0x800069000 pattern 0x55555555 write ok read ok
-block 105 addr 0x800069000 pattern 0xAAAAAAAA write ok read ok
-block 106 addr 0x80006A000 pattern 0x55555555 write ok read ok
-block 106 addr 0x80006A000 pattern 0xAAAAAAAA write ok read ok
-block 107 addr 0x80006B000 pattern 0x55555555 write ok read ok
-block 107 addr 0x80006B000 pattern 0xAAAAAAAA write ok read ok
-block 108 addr 0x80006C000 pattern 0x55555555 write ok read ok
-block 108 addr 0x80006C000 pattern 0xAAAAAAAA write ok read ok
-block 109 addr 0x80006D000 pattern 0x55555555 write ok read ok
-block 109 addr 0x80006D000 pattern 0xAAAAAAAA write ok read ok
-block 110 addr 0x80006E000 pattern 0x55555555 write ok read ok
-block 110 addr 0x80006E000 pattern 0xAAAAAAAA write ok read ok
-block 111 addr 0x80006F000 pattern 0x55555555 write ok read ok
-block 111 addr 0x80006F000 pattern 0xAAAAAAAA write ok read ok
-block 112 addr 0x800070000 pattern 0x55555555 write ok read ok
-block 112 addr 0x800070000 pattern 0xAAAAAAAA write ok read ok
-block 113 addr 0x800071000 pattern 0x55555555 write ok read ok
-block 113 addr 0x800071000 pattern 0xAAAAAAAA write ok read ok
-block 114 addr 0x800072000 pattern 0x55555555 write ok read ok
-block 114 addr 0x800072000 pattern 0xAAAAAAAA write ok read ok
-block 115 addr 0x800073000 pattern 0x55555555 write ok read ok
-block 115 addr 0x800073000 pattern 0xAAAAAAAA write ok read ok
-block 116 addr 0x800074000 pattern 0x55555555 write ok read ok
-block 116 addr 0x800074000 pattern 0xAAAAAAAA write ok read ok
-block 117 addr 0x800075000 pattern 0x55555555 write ok read ok
-block 117 addr 0x800075000 pattern 0xAAAAAAAA write ok read ok
-block 118 addr 0x800076000 pattern 0x55555555 write ok read ok
-block 118 addr 0x800076000 pattern 0xAAAAAAAA write ok read ok
-block 119 addr 0x800077000 pattern 0x55555555 write ok read ok
-block 119 addr 0x800077000 pattern 0xAAAAAAAA write ok read ok
-block 120 addr 0x800078000 pattern 0x55555555 write ok read ok
-block 120 addr 0x800078000 pattern 0xAAAAAAAA write ok read ok
-block 121 addr 0x800079000 pattern 0x55555555 write ok read ok
-block 121 addr 0x800079000 pattern 0xAAAAAAAA write ok read ok
-block 122 addr 0x80007A000 pattern 0x55555555 write ok read ok
-block 122 addr 0x80007A000 pattern 0xAAAAAAAA write ok read ok
-block 123 addr 0x80007B000 pattern 0x55555555 write ok read ok
-block 123 addr 0x80007B000 pattern 0xAAAAAAAA write ok read ok
-block 124 addr 0x80007C000 pattern 0x55555555 write ok read ok
-block 124 addr 0x80007C000 pattern 0xAAAAAAAA write ok read ok
-block 125 addr 0x80007D000 pattern 0x55555555 write ok read ok
-block 125 addr 0x80007D000 pattern 0xAAAAAAAA write ok read ok
-block 126 addr 0x80007E000 pattern 0x55555555 write ok read ok
-block 126 addr 0x80007E000 pattern 0xAAAAAAAA write ok read ok
-block 127 addr 0x80007F000 pattern 0x55555555 write ok read ok
-block 127 addr 0x80007F000 pattern 0xAAAAAAAA write ok read ok
-block 128 addr 0x800080000 pattern 0x55555555 write ok read ok
-block 128 addr 0x800080000 pattern 0xAAAAAAAA write ok read ok
-block 129 addr 0x800081000 pattern 0x55555555 write ok read ok
-block 129 addr 0x800081000 pattern 0xAAAAAAAA write ok read ok
-block 130 addr 0x800082000 pattern 0x55555555 write ok read ok
-block 130 addr 0x800082000 pattern 0xAAAAAAAA write ok read ok
-block 131 addr 0x800083000 pattern 0x55555555 write ok read ok
-block 131 addr 0x800083000 pattern 0xAAAAAAAA write ok read ok
-block 132 addr 0x800084000 pattern 0x55555555 write ok read ok
-block 132 addr 0x800084000 pattern 0xAAAAAAAA write ok read ok
-block 133 addr 0x800085000 pattern 0x55555555 write ok read ok
-block 133 addr 0x800085000 pattern 0xAAAAAAAA write ok read ok
-block 134 addr 0x800086000 pattern 0x55555555 write ok read ok
-block 134 addr 0x800086000 pattern 0xAAAAAAAA write ok read ok
-block 135 addr 0x800087000 pattern 0x55555555 write ok read ok
-block 135 addr 0x800087000 pattern 0xAAAAAAAA write ok read ok
-block 136 addr 0x800088000 pattern 0x55555555 write ok read ok
-block 136 addr 0x800088000 pattern 0xAAAAAAAA write ok read ok
-block 137 addr 0x800089000 pattern 0x55555555 write ok read ok
-block 137 addr 0x800089000 pattern 0xAAAAAAAA write ok read ok
-block 138 addr 0x80008A000 pattern 0x55555555 write ok read ok
-block 138 addr 0x80008A000 pattern 0xAAAAAAAA write ok read ok
-block 139 addr 0x80008B000 pattern 0x55555555 write ok read ok
-block 139 addr 0x80008B000 pattern 0xAAAAAAAA write ok read ok
-block 140 addr 0x80008C000 pattern 0x55555555 write ok read ok
-block 140 addr 0x80008C000 pattern 0xAAAAAAAA write ok read ok
-block 141 addr 0x80008D000 pattern 0x55555555 write ok read ok
-block 141 addr 0x80008D000 pattern 0xAAAAAAAA write ok read ok
-block 142 addr 0x80008E000 pattern 0x55555555 write ok read ok
-block 142 addr 0x80008E000 pattern 0xAAAAAAAA write ok read ok
-block 143 addr 0x80008F000 pattern 0x55555555 write ok read ok
-block 143 addr 0x80008F000 pattern 0xAAAAAAAA write ok read ok
-block 144 addr 0x800090000 pattern 0x55555555 write ok read ok
-block 144 addr 0x800090000 pattern 0xAAAAAAAA write ok read ok
-block 145 addr 0x800091000 pattern 0x55555555 write ok read ok
-block 145 addr 0x800091000 pattern 0xAAAAAAAA write ok read ok
-block 146 addr 0x800092000 pattern 0x55555555 write ok read ok
-block 146 addr 0x800092000 pattern 0xAAAAAAAA write ok read ok
-block 147 addr 0x800093000 pattern 0x55555555 write ok read ok
-block 147 addr 0x800093000 pattern 0xAAAAAAAA write ok read ok
-block 148 addr 0x800094000 pattern 0x55555555 write ok read ok
-block 148 addr 0x800094000 pattern 0xAAAAAAAA write ok read ok
-block 149 addr 0x800095000 pattern 0x55555555 write ok read ok
-block 149 addr 0x800095000 pattern 0xAAAAAAAA write ok read ok
-block 150 addr 0x800096000 pattern 0x55555555 write ok read ok
-block 150 addr 0x800096000 pattern 0xAAAAAAAA write ok read ok
-block 151 addr 0x800097000 pattern 0x55555555 write ok read ok
-block 151 addr 0x800097000 pattern 0xAAAAAAAA write ok read ok
-block 152 addr 0x800098000 pattern 0x55555555 write ok read ok
-block 152 addr 0x800098000 pattern 0xAAAAAAAA write ok read ok
-block 153 addr 0x800099000 pattern 0x55555555 write ok read ok
-block 153 addr 0x800099000 pattern 0xAAAAAAAA write ok read ok
-block 154 addr 0x80009A000 pattern 0x55555555 write ok read ok
-block 154 addr 0x80009A000 pattern 0xAAAAAAAA write ok read ok
-block 155 addr 0x80009B000 pattern 0x55555555 write ok read ok
-block 155 addr 0x80009B000 pattern 0xAAAAAAAA write ok read ok
-block 156 addr 0x80009C000 pattern 0x55555555 write ok read ok
-block 156 addr 0x80009C000 pattern 0xAAAAAAAA write ok read ok
-block 157 addr 0x80009D000 pattern 0x55555555 write ok read ok
-block 157 addr 0x80009D000 pattern 0xAAAAAAAA write ok read ok
-block 158 addr 0x80009E000 pattern 0x55555555 write ok read ok
-block 158 addr 0x80009E000 pattern 0xAAAAAAAA write ok read ok
-block 159 addr 0x80009F000 pattern 0x55555555 write ok read ok
-block 159 addr 0x80009F000 pattern 0xAAAAAAAA write ok read ok
-block 160 addr 0x8000A0000 pattern 0x55555555 write ok read ok
-block 160 addr 0x8000A0000 pattern 0xAAAAAAAA write ok read ok
-block 161 addr 0x8000A1000 pattern 0x55555555 write ok read ok
-block 161 addr 0x8000A1000 pattern 0xAAAAAAAA write ok read ok
-block 162 addr 0x8000A2000 pattern 0x55555555 write ok read ok
-block 162 addr 0x8000A2000 pattern 0xAAAAAAAA write ok read ok
-block 163 addr 0x8000A3000 pattern 0x55555555 write ok read ok
-block 163 addr 0x8000A3000 pattern 0xAAAAAAAA write ok read ok
-block 164 addr 0x8000A4000 pattern 0x55555555 write ok read ok
-block 164 addr 0x8000A4000 pattern 0xAAAAAAAA write ok read ok
-block 165 addr 0x8000A5000 pattern 0x55555555 write ok read ok
-block 165 addr 0x8000A5000 pattern 0xAAAAAAAA write ok read ok
-block 166 addr 0x8000A6000 pattern 0x55555555 write ok read ok
-block 166 addr 0x8000A6000 pattern 0xAAAAAAAA write ok read ok
-block 167 addr 0x8000A7000 pattern 0x55555555 write ok read ok
-block 167 addr 0x8000A7000 pattern 0xAAAAAAAA write ok read ok
-block 168 addr 0x8000A8000 pattern 0x55555555 write ok read ok
-block 168 addr 0x8000A8000 pattern 0xAAAAAAAA write ok read ok
-block 169 addr 0x8000A9000 pattern 0x55555555 write ok read ok
-block 169 addr 0x8000A9000 pattern 0xAAAAAAAA write ok read ok
-block 170 addr 0x8000AA000 pattern 0x55555555 write ok read ok
-block 170 addr 0x8000AA000 pattern 0xAAAAAAAA write ok read ok
-block 171 addr 0x8000AB000 pattern 0x55555555 write ok read ok
-block 171 addr 0x8000AB000 pattern 0xAAAAAAAA write ok read ok
-block 172 addr 0x8000AC000 pattern 0x55555555 write ok read ok
-block 172 addr 0x8000AC000 pattern 0xAAAAAAAA write ok read ok
-block 173 addr 0x8000AD000 pattern 0x55555555 write ok read ok
-block 173 addr 0x8000AD000 pattern 0xAAAAAAAA write ok read ok
-block 174 addr 0x8000AE000 pattern 0x55555555 write ok read ok
-block 174 addr 0x8000AE000 pattern 0xAAAAAAAA write ok read ok
-block 175 addr 0x8000AF000 pattern 0x55555555 write ok read ok
-block 175 addr 0x8000AF000 pattern 0xAAAAAAAA write ok read ok
-block 176 addr 0x8000B0000 pattern 0x55555555 write ok read ok
-block 176 addr 0x8000B0000 pattern 0xAAAAAAAA write ok read ok
-block 177 addr 0x8000B1000 pattern 0x55555555 write ok read ok
-block 177 addr 0x8000B1000 pattern 0xAAAAAAAA write ok read ok
-block 178 addr 0x8000B2000 pattern 0x55555555 write ok read ok
-block 178 addr 0x8000B2000 pattern 0xAAAAAAAA write ok read ok
-block 179 addr 0x8000B3000 pattern 0x55555555 write ok read ok
-block 179 addr 0x8000B3000 pattern 0xAAAAAAAA write ok read ok
-block 180 addr 0x8000B4000 pattern 0x55555555 write ok read ok
-block 180 addr 0x8000B4000 pattern 0xAAAAAAAA write ok read ok
-block 181 addr 0x8000B5000 pattern 0x55555555 write ok read ok
-block 181 addr 0x8000B5000 pattern 0xAAAAAAAA write ok read ok
-block 182 addr 0x8000B6000 pattern 0x55555555 write ok read ok
-block 182 addr 0x8000B6000 pattern 0xAAAAAAAA write ok read ok
-block 183 addr 0x8000B7000 pattern 0x55555555 write ok read ok
-block 183 addr 0x8000B7000 pattern 0xAAAAAAAA write ok read ok
-block 184 addr 0x8000B8000 pattern 0x55555555 write ok read ok
-block 184 addr 0x8000B8000 pattern 0xAAAAAAAA write ok read ok
-block 185 addr 0x8000B9000 pattern 0x55555555 write ok read ok
-block 185 addr 0x8000B9000 pattern 0xAAAAAAAA write ok read ok
-block 186 addr 0x8000BA000 pattern 0x55555555 write ok read ok
-block 186 addr 0x8000BA000 pattern 0xAAAAAAAA write ok read ok
-block 187 addr 0x8000BB000 pattern 0x55555555 write ok read ok
-block 187 addr 0x8000BB000 pattern 0xAAAAAAAA write ok read ok
-block 188 addr 0x8000BC000 pattern 0x55555555 write ok read ok
-block 188 addr 0x8000BC000 pattern 0xAAAAAAAA write ok read ok
-block 189 addr 0x8000BD000 pattern 0x55555555 write ok read ok
-block 189 addr 0x8000BD000 pattern 0xAAAAAAAA write ok read ok
-block 190 addr 0x8000BE000 pattern 0x55555555 write ok read ok
-block 190 addr 0x8000BE000 pattern 0xAAAAAAAA write ok read ok
-block 191 addr 0x8000BF000 pattern 0x55555555 write ok read ok
-block 191 addr 0x8000BF000 pattern 0xAAAAAAAA write ok read ok
-block 192 addr 0x8000C0000 pattern 0x55555555 write ok read ok
-block 192 addr 0x8000C0000 pattern 0xAAAAAAAA write ok read ok
-block 193 addr 0x8000C1000 pattern 0x55555555 write ok read ok
-block 193 addr 0x8000C1000 pattern 0xAAAAAAAA write ok read ok
-block 194 addr 0x8000C2000 pattern 0x55555555 write ok read ok
-block 194 addr 0x8000C2000 pattern 0xAAAAAAAA write ok read ok
-block 195 addr 0x8000C3000 pattern 0x55555555 write ok read ok
-block 195 addr 0x8000C3000 pattern 0xAAAAAAAA write ok read ok
-block 196 addr 0x8000C4000 pattern 0x55555555 write ok read ok
-block 196 addr 0x8000C4000 pattern 0xAAAAAAAA write ok read ok
-block 197 addr 0x8000C5000 pattern 0x55555555 write ok read ok
-block 197 addr 0x8000C5000 pattern 0xAAAAAAAA write ok read ok
-block 198 addr 0x8000C6000 pattern 0x55555555 write ok read ok
-block 198 addr 0x8000C6000 pattern 0xAAAAAAAA write ok read ok
-block 199 addr 0x8000C7000 pattern 0x55555555 write ok read ok
-block 199 addr 0x8000C7000 pattern 0xAAAAAAAA write ok read ok
-block 200 addr 0x8000C8000 pattern 0x55555555 write ok read ok
-block 200 addr 0x8000C8000 pattern 0xAAAAAAAA write ok read ok
-block 201 addr 0x8000C9000 pattern 0x55555555 write ok read ok
-block 201 addr 0x8000C9000 pattern 0xAAAAAAAA write ok read ok
-block 202 addr 0x8000CA000 pattern 0x55555555 write ok read ok
-block 202 addr 0x8000CA000 pattern 0xAAAAAAAA write ok read ok
-block 203 addr 0x8000CB000 pattern 0x55555555 write ok read ok
-block 203 addr 0x8000CB000 pattern 0xAAAAAAAA write ok read ok
-block 204 addr 0x8000CC000 pattern 0x55555555 write ok read ok
-block 204 addr 0x8000CC000 pattern 0xAAAAAAAA write ok read ok
-block 205 addr 0x8000CD000 pattern 0x55555555 write ok read ok
-block 205 addr 0x8000CD000 pattern 0xAAAAAAAA write ok read ok
-block 206 addr 0x8000CE000 pattern 0x55555555 write ok read ok
-block 206 addr 0x8000CE000 pattern 0xAAAAAAAA write ok read ok
-block 207 addr 0x8000CF000 pattern 0x55555555 write ok read ok
-block 207 addr 0x8000CF000 pattern 0xAAAAAAAA write ok read ok
-block 208 addr 0x8000D0000 pattern 0x55555555 write ok read ok
-block 208 addr 0x8000D0000 pattern 0xAAAAAAAA write ok read ok
-block 209 addr 0x8000D1000 pattern 0x55555555 write ok read ok
-block 209 addr 0x8000D1000 pattern 0xAAAAAAAA write ok read ok
-block 210 addr 0x8000D2000 pattern 0x55555555 write ok read ok
-block 210 addr 0x8000D2000 pattern 0xAAAAAAAA write ok read ok
-block 211 addr 0x8000D3000 pattern 0x55555555 write ok read ok
-block 211 addr 0x8000D3000 pattern 0xAAAAAAAA write ok read ok
-block 212 addr 0x8000D4000 pattern 0x55555555 write ok read ok
-block 212 addr 0x8000D4000 pattern 0xAAAAAAAA write ok read ok
-block 213 addr 0x8000D5000 pattern 0x55555555 write ok read ok
-block 213 addr 0x8000D5000 pattern 0xAAAAAAAA write ok read ok
-block 214 addr 0x8000D6000 pattern 0x55555555 write ok read ok
-block 214 addr 0x8000D6000 pattern 0xAAAAAAAA write ok read ok
-block 215 addr 0x8000D7000 pattern 0x55555555 write ok read ok
-block 215 addr 0x8000D7000 pattern 0xAAAAAAAA write ok read ok
-block 216 addr 0x8000D8000 pattern 0x55555555 write ok read ok
-block 216 addr 0x8000D8000 pattern 0xAAAAAAAA write ok read ok
-block 217 addr 0x8000D9000 pattern 0x55555555 write ok read ok
-block 217 addr 0x8000D9000 pattern 0xAAAAAAAA write ok read ok
-block 218 addr 0x8000DA000 pattern 0x55555555 write ok read ok
-block 218 addr 0x8000DA000 pattern 0xAAAAAAAA write ok read ok
-block 219 addr 0x8000DB000 pattern 0x55555555 write ok read ok
-block 219 addr 0x8000DB000 pattern 0xAAAAAAAA write ok read ok
-block 220 addr 0x8000DC000 pattern 0x55555555 write ok read ok
-block 220 addr 0x8000DC000 pattern 0xAAAAAAAA write ok read ok
-block 221 addr 0x8000DD000 pattern 0x55555555 write ok read ok
-block 221 addr 0x8000DD000 pattern 0xAAAAAAAA write ok read ok
-block 222 addr 0x8000DE000 pattern 0x55555555 write ok read ok
-block 222 addr 0x8000DE000 pattern 0xAAAAAAAA write ok read ok
-block 223 addr 0x8000DF000 pattern 0x55555555 write ok read ok
-block 223 addr 0x8000DF000 pattern 0xAAAAAAAA write ok read ok
-block 224 addr 0x8000E0000 pattern 0x55555555 write ok read ok
-block 224 addr 0x8000E0000 pattern 0xAAAAAAAA write ok read ok
-block 225 addr 0x8000E1000 pattern 0x55555555 write ok read ok
-block 225 addr 0x8000E1000 pattern 0xAAAAAAAA write ok read ok
-block 226 addr 0x8000E2000 pattern 0x55555555 write ok read ok
-block 226 addr 0x8000E2000 pattern 0xAAAAAAAA write ok read ok
-block 227 addr 0x8000E3000 pattern 0x55555555 write ok read ok
-block 227 addr 0x8000E3000 pattern 0xAAAAAAAA write ok read ok
-block 228 addr 0x8000E4000 pattern 0x55555555 write ok read ok
-block 228 addr 0x8000E4000 pattern 0xAAAAAAAA write ok read ok
-block 229 addr 0x8000E5000 pattern 0x55555555 write ok read ok
-block 229 addr 0x8000E5000 pattern 0xAAAAAAAA write ok read ok
-block 230 addr 0x8000E6000 pattern 0x55555555 write ok read ok
-block 230 addr 0x8000E6000 pattern 0xAAAAAAAA write ok read ok
-block 231 addr 0x8000E7000 pattern 0x55555555 write ok read ok
-block 231 addr 0x8000E7000 pattern 0xAAAAAAAA write ok read ok
-block 232 addr 0x8000E8000 pattern 0x55555555 write ok read ok
-block 232 addr 0x8000E8000 pattern 0xAAAAAAAA write ok read ok
-block 233 addr 0x8000E9000 pattern 0x55555555 write ok read ok
-block 233 addr 0x8000E9000 pattern 0xAAAAAAAA write ok read ok
-block 234 addr 0x8000EA000 pattern 0x55555555 write ok read ok
-block 234 addr 0x8000EA000 pattern 0xAAAAAAAA write ok read ok
-block 235 addr 0x8000EB000 pattern 0x55555555 write ok read ok
-block 235 addr 0x8000EB000 pattern 0xAAAAAAAA write ok read ok
-block 236 addr 0x8000EC000 pattern 0x55555555 write ok read ok
-block 236 addr 0x8000EC000 pattern 0xAAAAAAAA write ok read ok
-block 237 addr 0x8000ED000 pattern 0x55555555 write ok read ok
-block 237 addr 0x8000ED000 pattern 0xAAAAAAAA write ok read ok
-block 238 addr 0x8000EE000 pattern 0x55555555 write ok read ok
-block 238 addr 0x8000EE000 pattern 0xAAAAAAAA write ok read ok
-block 239 addr 0x8000EF000 pattern 0x55555555 write ok read ok
-block 239 addr 0x8000EF000 pattern 0xAAAAAAAA write ok read ok
-block 240 addr 0x8000F0000 pattern 0x55555555 write ok read ok
-block 240 addr 0x8000F0000 pattern 0xAAAAAAAA write ok read ok
-block 241 addr 0x8000F1000 pattern 0x55555555 write ok read ok
-block 241 addr 0x8000F1000 pattern 0xAAAAAAAA write ok read ok
-block 242 addr 0x8000F2000 pattern 0x55555555 write ok read ok
-block 242 addr 0x8000F2000 pattern 0xAAAAAAAA write ok read ok
-block 243 addr 0x8000F3000 pattern 0x55555555 write ok read ok
-block 243 addr 0x8000F3000 pattern 0xAAAAAAAA write ok read ok
-block 244 addr 0x8000F4000 pattern 0x55555555 write ok read ok
-block 244 addr 0x8000F4000 pattern 0xAAAAAAAA write ok read ok
-block 245 addr 0x8000F5000 pattern 0x55555555 write ok read ok
-block 245 addr 0x8000F5000 pattern 0xAAAAAAAA write ok read ok
-block 246 addr 0x8000F6000 pattern 0x55555555 write ok read ok
-block 246 addr 0x8000F6000 pattern 0xAAAAAAAA write ok read ok
-block 247 addr 0x8000F7000 pattern 0x55555555 write ok read ok
-block 247 addr 0x8000F7000 pattern 0xAAAAAAAA write ok read ok
-block 248 addr 0x8000F8000 pattern 0x55555555 write ok read ok
-block 248 addr 0x8000F8000 pattern 0xAAAAAAAA write ok read ok
-block 249 addr 0x8000F9000 pattern 0x55555555 write ok read ok
-block 249 addr 0x8000F9000 pattern 0xAAAAAAAA write ok read ok
-block 250 addr 0x8000FA000 pattern 0x55555555 write ok read ok
-block 250 addr 0x8000FA000 pattern 0xAAAAAAAA write ok read ok
-block 251 addr 0x8000FB000 pattern 0x55555555 write ok read ok
-block 251 addr 0x8000FB000 pattern 0xAAAAAAAA write ok read ok
-block 252 addr 0x8000FC000 pattern 0x55555555 write ok read ok
-block 252 addr 0x8000FC000 pattern 0xAAAAAAAA write ok read ok
-block 253 addr 0x8000FD000 pattern 0x55555555 write ok read ok
-block 253 addr 0x8000FD000 pattern 0xAAAAAAAA write ok read ok
-block 254 addr 0x8000FE000 pattern 0x55555555 write ok read ok
-block 254 addr 0x8000FE000 pattern 0xAAAAAAAA write ok read ok
-block 255 addr 0x8000FF000 pattern 0x55555555 write ok read ok
-block 255 addr 0x8000FF000 pattern 0xAAAAAAAA write ok read ok
-testmemory --1MB: Passed
-[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
-'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
 INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP X', 'baseband --off',
 replace('
 baseband --off', char(10), char(13, 10)) || char(13) || replace('
@@ -13249,6 +8512,66 @@ replace('
 buckcheck 5', char(10), char(13, 10)) || char(13) || replace('
 buckcheck starting, please wait
 buck5 target 1060 mV measured 1063.252 mV PASS
+[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
+'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP X', 'BUTTONCNT --DQE',
+replace('
+BUTTONCNT --DQE', char(10), char(13, 10)) || char(13) || replace('
+Button count test running, results on the device screen
+Send /q to quit
+[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
+'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP X', 'Help',
+replace('
+Help', char(10), char(13, 10)) || char(13) || replace('
+Available commands (type <command> --help for options):
+  accel          diagnostics command accel: run, read or control the accel block of the board
+  als            diagnostics command als: run, read or control the als block of the board
+  audio          diagnostics command audio: run, read or control the audio block of the board
+  baseband       diagnostics command baseband: run, read or control the baseband block of the board
+  battery        diagnostics command battery: run, read or control the battery block of the board
+  bl             diagnostics command bl: run, read or control the bl block of the board
+  bluetooth      diagnostics command bluetooth: run, read or control the bluetooth block of the board
+  buck           diagnostics command buck: run, read or control the buck block of the board
+  buckcheck      diagnostics command buckcheck: run, read or control the buckcheck block of the board
+  buttoncnt      diagnostics command buttoncnt: run, read or control the buttoncnt block of the board
+  camisp         diagnostics command camisp: run, read or control the camisp block of the board
+  charge         diagnostics command charge: run, read or control the charge block of the board
+  compass        diagnostics command compass: run, read or control the compass block of the board
+  consoleinit    diagnostics command consoleinit: run, read or control the consoleinit block of the board
+  device         diagnostics command device: run, read or control the device block of the board
+  diags          diagnostics command diags: run, read or control the diags block of the board
+  display        diagnostics command display: run, read or control the display block of the board
+  dock           diagnostics command dock: run, read or control the dock block of the board
+  exit           diagnostics command exit: run, read or control the exit block of the board
+  gps            diagnostics command gps: run, read or control the gps block of the board
+  gyro           diagnostics command gyro: run, read or control the gyro block of the board
+  help           diagnostics command help: run, read or control the help block of the board
+  hydra          diagnostics command hydra: run, read or control the hydra block of the board
+  i2c            diagnostics command i2c: run, read or control the i2c block of the board
+  mic            diagnostics command mic: run, read or control the mic block of the board
+  nand           diagnostics command nand: run, read or control the nand block of the board
+  nandsize       diagnostics command nandsize: run, read or control the nandsize block of the board
+  nanduid        diagnostics command nanduid: run, read or control the nanduid block of the board
+  pmuadc         diagnostics command pmuadc: run, read or control the pmuadc block of the board
+  pmureg         diagnostics command pmureg: run, read or control the pmureg block of the board
+  prox           diagnostics command prox: run, read or control the prox block of the board
+  reset          diagnostics command reset: run, read or control the reset block of the board
+  rtc            diagnostics command rtc: run, read or control the rtc block of the board
+  sensor         diagnostics command sensor: run, read or control the sensor block of the board
+  shutdown       diagnostics command shutdown: run, read or control the shutdown block of the board
+  smokey         diagnostics command smokey: run, read or control the smokey block of the board
+  soc            diagnostics command soc: run, read or control the soc block of the board
+  speaker        diagnostics command speaker: run, read or control the speaker block of the board
+  syscfg         diagnostics command syscfg: run, read or control the syscfg block of the board
+  temp           diagnostics command temp: run, read or control the temp block of the board
+  testmemory     diagnostics command testmemory: run, read or control the testmemory block of the board
+  touch          diagnostics command touch: run, read or control the touch block of the board
+  tristar        diagnostics command tristar: run, read or control the tristar block of the board
+  usb            diagnostics command usb: run, read or control the usb block of the board
+  version        diagnostics command version: run, read or control the version block of the board
+  vibrator       diagnostics command vibrator: run, read or control the vibrator block of the board
+  wifi           diagnostics command wifi: run, read or control the wifi block of the board
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
 INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP X', 'i2c -s 0',
@@ -13416,6 +8739,12 @@ tigris vldo : 1786.629 mV
 tigris vntc : 624.863 mV
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP X', 'Reset',
+replace('
+Reset', char(10), char(13, 10)) || char(13) || replace('
+Resetting device...
+[0001a1f3:00000001] :-) ', char(10), char(13, 10)),
+'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
 INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP X', 'syscfg list',
 replace('
 syscfg list', char(10), char(13, 10)) || char(13) || replace('
@@ -13508,9 +8837,9 @@ memory test random       Passed
 testmemory: Passed
 [0001a1f3:00000001] :-) ', char(10), char(13, 10)),
 'Gravação de demonstração (placa boa simulada).', 'Demo recording (simulated good board).', 'Grabación de demostración (placa buena simulada).');
-INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP X', 'testmemory --1MB',
+INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP X', 'TESTMEMORY --1MB',
 replace('
-testmemory --1MB', char(10), char(13, 10)) || char(13) || replace('
+TESTMEMORY --1MB', char(10), char(13, 10)) || char(13) || replace('
 testmemory 1MB read/write, 256 blocks of 4 KiB
 block   0 addr 0x800000000 pattern 0x55555555 write ok read ok
 block   0 addr 0x800000000 pattern 0xAAAAAAAA write ok read ok

@@ -142,6 +142,17 @@ private slots:
         p.connection.onTimerValidaPorta();
         QCOMPARE(p.find<QPushButton>("Botoes_1")->text(), QStringLiteral("Desconectar"));
         QVERIFY(p.session.connectionValidated());
+
+        // The cable is pulled: said on the status line, in the session language, until the next try.
+        p.port.pull();
+        QCOMPARE(p.find<QPushButton>("Botoes_1")->text(), QStringLiteral("Conectar"));
+        QCOMPARE(p.find<QLabel>("lbConexao")->text(), QStringLiteral("Conexão perdida"));
+        QVERIFY(!p.session.connectionValidated());
+        p.session.setIdioma(2);
+        p.inicial->Traducao_Form_Inicial();
+        QCOMPARE(p.find<QLabel>("lbConexao")->text(), QStringLiteral("Connection lost"));
+        p.connection.connectClicked(QStringLiteral("/dev/fake"), QStringLiteral("fake"));
+        QCOMPARE(p.find<QLabel>("lbConexao")->text(), QStringLiteral("Connecting"));
     }
 
     void openFailureShowsTheMessage()

@@ -4,6 +4,9 @@
 
 #include "SimProcess.h"
 
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
 #include <QtTest>
 
 namespace {
@@ -78,6 +81,21 @@ private slots:
         QVERIFY2(run.lines.contains(QStringLiteral("Model number: ") + modelNumber), qPrintable(describe(run)));
     }
 
+    // A database that cannot be read is said as such, naming the file, not as an unknown model.
+    void identifyNamesAnUnreadableDatabase()
+    {
+        SimProcess phone;
+        const QString started = phone.start(QStringLiteral("IP 7"), QStringLiteral("good"));
+        QVERIFY2(started.isEmpty(), qPrintable(started));
+        const QString notADatabase = QStringLiteral(VEKTO_SOURCE_DIR "/README.md");
+        const CliRun run = runCli({QStringLiteral("identify"), QStringLiteral("--port"), phone.port(),
+                                   QStringLiteral("--db"), notADatabase});
+        QVERIFY2(run.exitCode == 2, qPrintable(describe(run)));
+        QVERIFY2(run.errors.contains(QStringLiteral("cannot read the database ") + notADatabase
+                                     + QStringLiteral(": file is not a database")),
+                 qPrintable(describe(run)));
+    }
+
     void identifyGivesUpOnASilentPhone()
     {
         SimProcess phone;
@@ -112,6 +130,57 @@ private slots:
         QCOMPARE(run.lines.value(0), QStringLiteral("syscfg print RMd#"));
         QCOMPARE(run.lines.value(1), QStringLiteral("A1634"));
         QVERIFY2(run.lines.last().endsWith(QStringLiteral("] :-) ")), qPrintable(describe(run)));
+    }
+
+    void sendOnASilentPhoneFails()
+    {
+        SimProcess phone;
+        const QString started = phone.start(QStringLiteral("IP 7"), QStringLiteral("silent"));
+        QVERIFY2(started.isEmpty(), qPrintable(started));
+
+        const CliRun run = runCli({QStringLiteral("send"), QStringLiteral("--port"), phone.port(),
+                                   QStringLiteral("nand --getinfo")});
+        QVERIFY2(run.exitCode == 1, qPrintable(describe(run)));
+        QVERIFY2(run.errors.contains(QStringLiteral("no answer from ") + phone.port()), qPrintable(describe(run)));
+    }
+
+    // What send prints, saved to a file, is an answer the judge takes as the screen would.
+    void savedSendJudgesLikeTheScreen()
+    {
+        SimProcess phone;
+        const QString started = phone.start(QStringLiteral("IP 7"), QStringLiteral("good"));
+        QVERIFY2(started.isEmpty(), qPrintable(started));
+        const CliRun sent = runCli({QStringLiteral("send"), QStringLiteral("--port"), phone.port(),
+                                    QStringLiteral("nand --getinfo")});
+        QVERIFY2(sent.exitCode == 0, qPrintable(describe(sent)));
+
+        QTemporaryDir dir;
+        const QString saved = dir.filePath(QStringLiteral("answer.txt"));
+        QFile file(saved);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(sent.text.toUtf8());
+        file.close();
+        const CliRun judged = runCli({QStringLiteral("judge"), QStringLiteral("compare"), QStringLiteral("--model"),
+                                      QStringLiteral("IP 7"), QStringLiteral("--command"),
+                                      QStringLiteral("nand --getinfo"), QStringLiteral("--answer"), saved,
+                                      QStringLiteral("--db"), m_config.path()});
+        QVERIFY2(judged.exitCode == 0, qPrintable(describe(judged)));
+        QVERIFY2(judged.text.contains(QStringLiteral("Auto Comparador OK")), qPrintable(describe(judged)));
+    }
+
+    // A phone that rejects the first model question is asked again, as the main window does.
+    void runAutoAsksAgainAfterARejectedCommand()
+    {
+        SimProcess phone;
+        const QString started = phone.start(QStringLiteral("IP 8"), QStringLiteral("reject-once"));
+        QVERIFY2(started.isEmpty(), qPrintable(started));
+        const CliRun run = runCli({QStringLiteral("run"), QStringLiteral("vcore"), QStringLiteral("--port"),
+                                   phone.port(), QStringLiteral("--model"), QStringLiteral("auto"),
+                                   QStringLiteral("--db"), m_config.path(), QStringLiteral("--json")});
+        QVERIFY2(run.exitCode == 0, qPrintable(describe(run)));
+        const QJsonObject report = QJsonDocument::fromJson(run.text.toUtf8()).object();
+        QCOMPARE(report.value(QStringLiteral("model")).toString(), QStringLiteral("IP 8"));
+        QCOMPARE(report.value(QStringLiteral("status")).toString(), QStringLiteral("pass"));
     }
 
     void portsListsTheSimulator()

@@ -139,6 +139,43 @@ private slots:
         QVERIFY(!listed());
         QCOMPARE(changed.count(), 2);
     }
+
+    // After a pulled cable the list is filled again: the same device or none, never another board.
+    void reselect_data()
+    {
+        QTest::addColumn<QList<PortEntry>>("ports");
+        QTest::addColumn<bool>("anythingChosen");
+        QTest::addColumn<PortEntry>("chosen");
+        QTest::addColumn<int>("expected");
+        const PortEntry boxA{"/dev/ttyUSB0", "", "ttyUSB0", "FT232R USB UART, USB 0403:6001", "A10K1"};
+        const PortEntry boxAMoved{"/dev/ttyUSB1", "", "ttyUSB1", "FT232R USB UART, USB 0403:6001", "A10K1"};
+        const PortEntry boxB{"/dev/ttyUSB0", "", "ttyUSB0", "FT232R USB UART, USB 0403:6001", "B77Q2"};
+        const PortEntry cable{"/dev/ttyACM0", "", "ttyACM0", "Lightning cable", ""};
+        const PortEntry cableMoved{"/dev/ttyACM1", "", "ttyACM1", "Lightning cable", ""};
+        const PortEntry otherCable{"/dev/ttyACM2", "", "ttyACM2", "Lightning cable", ""};
+        const PortEntry com3{"COM3", "3", "3", "", ""};
+        const PortEntry com4{"COM4", "4", "4", "", ""};
+        QTest::newRow("nothing chosen: the last") << QList<PortEntry>{cable, boxA} << false << PortEntry{} << 1;
+        QTest::newRow("nothing chosen, empty list") << QList<PortEntry>{} << false << PortEntry{} << -1;
+        QTest::newRow("same serial under another name") << QList<PortEntry>{cable, boxAMoved} << true << boxA << 1;
+        QTest::newRow("another board on the same name") << QList<PortEntry>{cable, boxB} << true << boxA << -1;
+        QTest::newRow("gone") << QList<PortEntry>{cable} << true << boxA << -1;
+        QTest::newRow("same description, back under another name")
+            << QList<PortEntry>{boxB, cableMoved} << true << cable << 1;
+        QTest::newRow("two alike, the same name") << QList<PortEntry>{cable, otherCable} << true << cable << 0;
+        QTest::newRow("two alike, neither the same name")
+            << QList<PortEntry>{cableMoved, otherCable} << true << cable << -1;
+        QTest::newRow("COM port by its name") << QList<PortEntry>{com3, com4} << true << com3 << 0;
+        QTest::newRow("COM port gone") << QList<PortEntry>{com4} << true << com3 << -1;
+    }
+    void reselect()
+    {
+        QFETCH(QList<PortEntry>, ports);
+        QFETCH(bool, anythingChosen);
+        QFETCH(PortEntry, chosen);
+        QFETCH(int, expected);
+        QCOMPARE(PortList::reselect(ports, anythingChosen ? std::optional<PortEntry>(chosen) : std::nullopt), expected);
+    }
 };
 
 QTEST_MAIN(TestPortList)

@@ -204,6 +204,32 @@ private slots:
         QCOMPARE(reopened.findChild<QPushButton *>(QStringLiteral("btGravar_2"))->text(), QStringLiteral("Gravar 2"));
     }
 
+    // After a model change the grid lists every rail, whatever the chip list still says:
+    // Gravar records exactly those rows.
+    void gravarRecordsTheRowsShown()
+    {
+        Bench b;
+        b.port.answers << simAnswer(QStringLiteral("ip7/pmuadc-all.txt"));
+        VCores screen(b.context);
+        screen.findChild<QComboBox *>(QStringLiteral("cbICs"))->setCurrentText(QStringLiteral("NAND"));
+        b.finishExchange();
+        screen.onTimer1();
+        screen.onTimer2();
+        b.session.setModelo(QStringLiteral("IP 8"));
+        b.session.setModelo(QStringLiteral("IP 7"));
+        QSqlQueryModel *grid = screen.Data1();
+        QStringList shown;
+        for (int r = 0; r < grid->rowCount(); ++r)
+            shown << gridValue(grid, r, QStringLiteral("Malha"));
+        QVERIFY2(shown.contains(QStringLiteral("PP_CPU")), qPrintable(shown.join(u',')));
+
+        b.dialogs.answers = {true};
+        screen.gravar(1);
+        QVERIFY(!b.leitura(QStringLiteral("PP_CPU"), 1).isEmpty());
+        for (int r = 0; r < grid->rowCount(); ++r)
+            QCOMPARE(gridValue(grid, r, QStringLiteral("G1")), gridValue(grid, r, QStringLiteral("Leitura")));
+    }
+
     void failingWriteLeavesNoRowHalfWritten()
     {
         Bench b;
@@ -244,14 +270,27 @@ private slots:
     void pulledCableGivesTheScreenBack()
     {
         Bench b;
+        b.port.answers << simAnswer(QStringLiteral("ip7/pmuadc-all.txt"));
         VCores screen(b.context);
+        b.read(screen);
+        const QString before = b.leitura(QStringLiteral("PP_CPU"));
+        QVERIFY(!before.isEmpty());
         screen.ExecutaLeitura();
+        QCOMPARE(b.leitura(QStringLiteral("PP_CPU")), QString()); // wiped as a reading starts
         b.session.setConnectionFlag(QStringLiteral("0"));
         screen.onTimer1();
         QVERIFY(!screen.timer1().isActive());
         QVERIFY(!screen.readingUnderWay());
         QVERIFY(!screen.findChild<QPushButton *>(QStringLiteral("btExecutaLeitura"))->isEnabled());
         QVERIFY(screen.findChild<QComboBox *>(QStringLiteral("cbICs"))->isEnabled());
+        // The reading never came: the one that was there is back, in the file and the grid.
+        QCOMPARE(b.leitura(QStringLiteral("PP_CPU")), before);
+        QSqlQueryModel *grid = screen.Data1();
+        bool shown = false;
+        for (int r = 0; r < grid->rowCount(); ++r)
+            shown = shown || (gridValue(grid, r, QStringLiteral("Malha")) == QLatin1String("PP_CPU")
+                              && gridValue(grid, r, QStringLiteral("Leitura")) == before);
+        QVERIFY(shown);
     }
 
     void buckTeste()
