@@ -12,6 +12,10 @@ QString CommandHistory::older(const QString &typed)
 {
     if (m_entries.isEmpty())
         return typed;
+    // The field no longer shows what the walk put there (typed over, or a console opened
+    // again): a new walk starts from the newest command.
+    if (m_position < m_entries.size() && m_entries.at(m_position) != typed)
+        m_position = m_entries.size();
     if (m_position == m_entries.size())
         m_typed = typed;
     if (m_position > 0)
@@ -21,7 +25,7 @@ QString CommandHistory::older(const QString &typed)
 
 QString CommandHistory::newer(const QString &typed)
 {
-    if (m_position >= m_entries.size())
+    if (m_position >= m_entries.size() || m_entries.at(m_position) != typed)
         return typed;
     ++m_position;
     return m_position == m_entries.size() ? m_typed : m_entries.at(m_position);

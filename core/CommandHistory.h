@@ -15,7 +15,6 @@ public:
     // The entry one newer; past the newest, the text typed before the walk (`typed` when there
     // is no walk under way).
     QString newer(const QString &typed);
-    QStringList entries() const { return m_entries; }
 
 private:
     QStringList m_entries;
