@@ -54,6 +54,11 @@ public:
     static RailVerdict verdict(const RailMeasurement &reading, const QString &refv, double tolerancePercent);
 
     static constexpr double DefaultTolerancePercent = 5.0;
+
+private:
+    // One row whose label was found at `label` (-1: not found).
+    static RailMeasurement readRailAt(const QString &answer, const RailReference &row, const RailSettings &settings,
+                                      qsizetype label);
 };
 
 // Millivolt count text, with or without a fraction ("850", "-12", "4998.000"), to volts with
