@@ -98,11 +98,13 @@ TextAutomaton::TextAutomaton(const QStringList &patterns, Qt::CaseSensitivity cs
         for (qint32 k = 0; k < m_nodes[u].childCount; ++k) {
             const char16_t c = m_childChar[m_nodes[u].childBegin + k];
             const qint32 v = m_childNode[m_nodes[u].childBegin + k];
-            m_nodes[v].fail = u == 0 ? 0 : step(m_nodes[u].fail, c);
+            m_nodes[v].fail = u == 0 ? 0 : slowStep(m_nodes[u].fail, c);
             m_nodes[v].output = m_nodes[v].pattern >= 0 ? v : m_nodes[m_nodes[v].fail].output;
             m_bfs.push_back(v);
         }
     }
+
+    buildTable();
 
     // Enter and leave numbers of a depth-first walk of the fail tree: a node's subtree holds
     // exactly the states in which its pattern has just been read.
@@ -132,6 +134,50 @@ TextAutomaton::TextAutomaton(const QStringList &patterns, Qt::CaseSensitivity cs
     }
 }
 
+void TextAutomaton::buildTable()
+{
+    // Kept to a few megabytes: beyond that (thousands of distinct characters in the patterns)
+    // the trie is walked instead, slower but in memory of the patterns alone.
+    constexpr std::size_t MaxEntries = std::size_t(1) << 21;
+    m_asciiClass.assign(128, 0);
+    std::vector<char16_t> wide;
+    for (const char16_t c : m_childChar) {
+        if (c < 128) {
+            if (m_asciiClass[c] == 0)
+                m_asciiClass[c] = ++m_asciiClasses;
+        } else {
+            wide.push_back(c);
+        }
+    }
+    std::sort(wide.begin(), wide.end());
+    wide.erase(std::unique(wide.begin(), wide.end()), wide.end());
+    m_wideChars = std::move(wide);
+    m_classes = m_asciiClasses + qint32(m_wideChars.size());
+    if (m_classes == 0 || m_nodes.size() * std::size_t(m_classes) > MaxEntries)
+        return;
+
+    // Breadth first, so a state's fail target already has its row: a state moves as its fail
+    // target does, except along its own children.
+    std::vector<qint32> table(m_nodes.size() * std::size_t(m_classes), 0);
+    for (const qint32 u : m_bfs) {
+        qint32 *row = table.data() + std::size_t(u) * m_classes;
+        if (u != 0)
+            std::copy_n(table.data() + std::size_t(m_nodes[u].fail) * m_classes, m_classes, row);
+        const Node &n = m_nodes[u];
+        for (qint32 k = 0; k < n.childCount; ++k) {
+            const char16_t c = m_childChar[n.childBegin + k];
+            row[(c < 128 ? m_asciiClass[c] : wideClass(c)) - 1] = m_childNode[n.childBegin + k];
+        }
+    }
+    m_table = std::move(table);
+}
+
+qint32 TextAutomaton::wideClass(char16_t c) const
+{
+    const auto it = std::lower_bound(m_wideChars.begin(), m_wideChars.end(), c);
+    return (it != m_wideChars.end() && *it == c) ? m_asciiClasses + qint32(it - m_wideChars.begin()) + 1 : 0;
+}
+
 QString TextAutomaton::prepare(QStringView text) const
 {
     return m_cs == Qt::CaseInsensitive ? foldText(text) : text.toString();
@@ -146,7 +192,7 @@ qint32 TextAutomaton::child(qint32 node, char16_t c) const
     return (it != end && *it == c) ? m_childNode[n.childBegin + (it - begin)] : -1;
 }
 
-qint32 TextAutomaton::step(qint32 state, char16_t c) const
+qint32 TextAutomaton::slowStep(qint32 state, char16_t c) const
 {
     for (;;) {
         if (state == 0)

@@ -62,13 +62,32 @@ private:
     };
 
     qint32 child(qint32 node, char16_t c) const;
-    qint32 step(qint32 state, char16_t c) const;
+    // The next state after reading `c`: one table look-up where the table was built, else the
+    // trie with its fail links.
+    qint32 step(qint32 state, char16_t c) const
+    {
+        if (m_table.empty())
+            return slowStep(state, c);
+        const qint32 cls = c < 128 ? m_asciiClass[c] : wideClass(c);
+        return cls == 0 ? 0 : m_table[std::size_t(state) * m_classes + cls - 1];
+    }
+    qint32 slowStep(qint32 state, char16_t c) const;
+    qint32 wideClass(char16_t c) const;
+    void buildTable();
 
     Qt::CaseSensitivity m_cs = Qt::CaseSensitive;
     std::vector<Node> m_nodes{Node{}};
     std::vector<char16_t> m_childChar;
     std::vector<qint32> m_childNode;
     std::vector<qint32> m_rootAscii; // the root's moves for the characters most answers consist of
+    // The moves of every state for every character some pattern contains (a character no pattern
+    // contains always leads back to the start): classes of such characters, then a table of
+    // states × classes.
+    qint32 m_classes = 0;
+    std::vector<qint32> m_asciiClass;
+    std::vector<char16_t> m_wideChars; // sorted; class = index + 1 + ASCII classes
+    qint32 m_asciiClasses = 0;
+    std::vector<qint32> m_table;
     std::vector<qint32> m_bfs;       // nodes by depth: a node's fail target always comes before it
     std::vector<qint32> m_enter, m_leave; // positions in a walk of the fail tree, for endsIn()
     QList<qint32> m_patternNode;

@@ -45,16 +45,59 @@ PortList::PortList(const QString &simulatorFolder, QObject *parent)
     : QObject(parent), m_simulatorFolder(simulatorFolder)
 {
     m_settle.setSingleShot(true);
-    m_settle.setInterval(SettleMs);
-    connect(&m_settle, &QTimer::timeout, this, &PortList::refresh);
-    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, &m_settle, qOverload<>(&QTimer::start));
+    connect(&m_settle, &QTimer::timeout, this, &PortList::update);
+    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &PortList::folderChanged);
     m_poll.setInterval(PollIntervalMs);
     connect(&m_poll, &QTimer::timeout, this, &PortList::refresh);
     // Made here, so simulators started later are seen through the watch.
     QDir().mkpath(m_simulatorFolder);
+    setWatching(true); // before the first scan: nothing to catch up with yet
+    m_ports = devicesNow() + simulatorPorts(m_simulatorFolder);
+    m_sinceUpdate.start();
+}
+
+QList<PortEntry> PortList::devicesNow()
+{
     ++m_scans;
-    m_ports = scan(m_simulatorFolder);
-    setWatching(true);
+#ifdef Q_OS_WIN
+    m_devices = comPorts();
+#else
+    m_devices = serialDevices();
+#endif
+    m_devicesChanged = false;
+    return m_devices;
+}
+
+void PortList::folderChanged(const QString &folder)
+{
+    // Simulators come and go through their folder and /dev/pts; only the other folders need the
+    // platform's (costly) device scan.
+    if (folder != m_simulatorFolder && folder != QLatin1String("/dev/pts"))
+        m_devicesChanged = true;
+    if (!m_settle.isActive())
+        m_settle.start(std::max<qint64>(SettleMs, MinGapMs - m_sinceUpdate.elapsed()));
+}
+
+void PortList::watchNewFolders()
+{
+    // A folder that appeared since (a first USB box makes /dev/serial/by-id) is watched too.
+    if (!m_watching || m_poll.isActive())
+        return;
+    const QStringList folders = watchedFolders();
+    for (const QString &folder : folders)
+        if (!m_watcher.directories().contains(folder))
+            m_watcher.addPath(folder);
+}
+
+void PortList::update()
+{
+    m_sinceUpdate.start();
+    QList<PortEntry> now = (m_devicesChanged ? devicesNow() : m_devices) + simulatorPorts(m_simulatorFolder);
+    watchNewFolders();
+    if (now == m_ports)
+        return;
+    m_ports = std::move(now);
+    emit changed();
 }
 
 QStringList PortList::watchedFolders() const
@@ -97,15 +140,9 @@ void PortList::setWatching(bool on)
 
 void PortList::refresh()
 {
-    ++m_scans;
-    QList<PortEntry> now = scan(m_simulatorFolder);
-    // A folder that appeared since (a first USB box makes /dev/serial/by-id) is watched too.
-    if (m_watching && !m_poll.isActive()) {
-        const QStringList folders = watchedFolders();
-        for (const QString &folder : folders)
-            if (!m_watcher.directories().contains(folder))
-                m_watcher.addPath(folder);
-    }
+    m_sinceUpdate.start();
+    QList<PortEntry> now = devicesNow() + simulatorPorts(m_simulatorFolder);
+    watchNewFolders();
     if (now == m_ports)
         return;
     m_ports = std::move(now);

@@ -5,6 +5,7 @@
 // watching the device folders, so nothing is scanned while nothing changes; where the system
 // cannot tell (Windows COM ports) a poll does it. While a port is open nothing is watched at all.
 
+#include <QElapsedTimer>
 #include <QFileSystemWatcher>
 #include <QList>
 #include <QObject>
@@ -28,8 +29,10 @@ class PortList : public QObject
     Q_OBJECT
 public:
     static constexpr int PollIntervalMs = 2000; // only where no folder can be watched
-    // A plugged box makes several entries appear in a burst; one scan after it settles.
+    // A plugged box makes several entries appear in a burst; one scan after it settles, and
+    // never more than one per MinGapMs however busy the folders are.
     static constexpr int SettleMs = 250;
+    static constexpr int MinGapMs = 1000;
 
     explicit PortList(QObject *parent = nullptr);
     // Simulators registered in `simulatorFolder` instead of the usual one.
@@ -40,7 +43,8 @@ public:
     // back on scans at once, for what changed meanwhile.
     void setWatching(bool on);
     bool watching() const { return m_watching; }
-    // Full scans since the list was made (the start-up scan included).
+    // Scans of the platform's serial devices since the list was made (the start-up scan
+    // included); a change among the simulators only re-reads their registrations.
     int scanCount() const { return m_scans; }
 
     // The ports as last scanned; the last entry is the one to preselect.
@@ -74,9 +78,16 @@ signals:
 
 private:
     QStringList watchedFolders() const;
+    void folderChanged(const QString &folder);
+    void update();
+    void watchNewFolders();
+    QList<PortEntry> devicesNow();
 
     QString m_simulatorFolder;
     QList<PortEntry> m_ports;
+    QList<PortEntry> m_devices; // the platform's part of m_ports, as last scanned
+    bool m_devicesChanged = false;
+    QElapsedTimer m_sinceUpdate;
     QFileSystemWatcher m_watcher;
     QTimer m_settle;
     QTimer m_poll;

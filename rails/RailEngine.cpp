@@ -1,6 +1,7 @@
 #include "RailEngine.h"
 
 #include "NumberRoutines.h"
+#include "TextAutomaton.h"
 
 #include <QRegularExpression>
 #include <cmath>
@@ -50,6 +51,12 @@ QString cutMilliamps(const QString &value, int decimals)
 
 RailMeasurement RailEngine::readRail(const QString &answer, const RailReference &row, const RailSettings &settings)
 {
+    return readRailAt(answer, row, settings, row.reft.isEmpty() ? -1 : answer.indexOf(row.reft));
+}
+
+RailMeasurement RailEngine::readRailAt(const QString &answer, const RailReference &row, const RailSettings &settings,
+                                       qsizetype label)
+{
     RailMeasurement reading;
     reading.malha = row.malha;
     if (row.reft.isEmpty())
@@ -64,7 +71,6 @@ RailMeasurement RailEngine::readRail(const QString &answer, const RailReference 
         return reading;
     };
 
-    const qsizetype label = answer.indexOf(row.reft); // first occurrence, case-sensitive
     if (label < 0)
         return noReading();
     const qsizetype start = label + row.reft.size() + 1; // one separator follows the label
@@ -106,9 +112,17 @@ QList<RailMeasurement> RailEngine::ProcessaLeituras(const QString &answer, const
     QList<RailMeasurement> readings;
     if (answer.isEmpty())
         return readings;
+    // Every label's first occurrence (case-sensitive) in one pass over the answer: searching
+    // from the start for each row made thousands of rails cost rows × answer.
+    QStringList labels;
+    for (const RailReference &row : rows)
+        if (!row.reft.isEmpty())
+            labels << row.reft;
+    const QList<qsizetype> found = TextAutomaton(labels, Qt::CaseSensitive).firstOccurrences(answer);
+    qsizetype next = 0;
     for (const RailReference &row : rows) {
         if (!row.reft.isEmpty())
-            readings.append(readRail(answer, row, settings));
+            readings.append(readRailAt(answer, row, settings, found.at(next++)));
     }
     return readings;
 }

@@ -59,4 +59,9 @@ public:
 
     // How far a rail may stray from its reference and still pass, for every screen and command.
     static constexpr double DefaultTolerancePercent = 5.0;
+
+private:
+    // One row whose label was found at `label` (-1: not found).
+    static RailMeasurement readRailAt(const QString &answer, const RailReference &row, const RailSettings &settings,
+                                      qsizetype label);
 };

@@ -89,6 +89,16 @@ void TestMasker::sameAsOneMaskAfterAnother_data()
     QTest::newRow("empty masks mask nothing") << QStringLiteral("abc") << QStringList{QString(), QStringLiteral("b")};
     QTest::newRow("empty text") << QString() << QStringList{QStringLiteral("a")};
 
+    // So many different characters that the automaton walks its trie instead of its table.
+    QStringList wide;
+    QString wideText;
+    for (int i = 0; i < 1200; ++i) {
+        wide << QString(QChar(0x4E00 + i)) + QChar(0x4E00 + (i * 7) % 1500) + QChar(0x4E00 + (i * 13) % 1500);
+        wideText += QChar(0x4E00 + (i * 5) % 1500);
+    }
+    wideText += wide.at(3) + wide.at(700).toLower() + wide.at(1199);
+    QTest::newRow("thousands of different characters") << wideText << wide;
+
     // Tables nobody would write by hand, so overlaps of every kind come up.
     QRandomGenerator random(1414);
     for (int i = 0; i < 300; ++i) {

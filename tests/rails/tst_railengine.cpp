@@ -123,6 +123,58 @@ private slots:
         QVERIFY(RailEngine::ProcessaLeituras(QString(), rows, {}).isEmpty());
     }
 
+    // All labels are searched in one pass; each row must still get the first occurrence of its
+    // own label, exactly as a search from the start of the answer for that row alone would.
+    void labelsInOnePass_data()
+    {
+        QTest::addColumn<QString>("lines");
+        QTest::addColumn<QStringList>("labels");
+        QTest::addColumn<QStringList>("expected");
+        const QString none = QStringLiteral("Sem Medição*");
+
+        QTest::newRow("label found twice: the first counts")
+            << QStringLiteral("buck0 851 mV\r\r\nbuck0 900 mV\r\r\n") << QStringList{"buck0"}
+            << QStringList{"0.851 V"};
+        QTest::newRow("letter case counts")
+            << QStringLiteral("BUCK0 900 mV\r\r\nbuck0 851 mV\r\r\n") << QStringList{"buck0", "BUCK0"}
+            << QStringList{"0.851 V", "0.900 V"};
+        QTest::newRow("a label inside a longer one that comes first")
+            << QStringLiteral("xbuck10: 1200 mV\r\r\nbuck1: 851 mV\r\r\n") << QStringList{"buck1:", "buck10:", "uck1"}
+            << QStringList{"0.851 V", "1.200 V", none};
+        QTest::newRow("the same label on two rows")
+            << QStringLiteral("ldo3 1799 mV\r\r\n") << QStringList{"ldo3", "ldo3"} << QStringList{"1.799 V", "1.799 V"};
+        QTest::newRow("overlapping labels")
+            << QStringLiteral("abc 5 mV\r\r\nbc 7 mV\r\r\n") << QStringList{"bc", "abc", "c 5"}
+            << QStringList{"0.005 V", "0.005 V", none};
+        QTest::newRow("absent label") << QStringLiteral("ldo3 1799 mV\r\r\n") << QStringList{"ldo4"}
+                                      << QStringList{none};
+        QString chain;
+        QStringList labels, expected;
+        for (int i = 1; i <= 9; ++i) {
+            const QString label = QStringLiteral("r") + QString(i, u'1');
+            chain += label + QStringLiteral(" %1 mV\r\r\n").arg(100 * i);
+            labels << label;
+            expected << QStringLiteral("0.%1 V").arg(100 * i);
+        }
+        QTest::newRow("each label begins the next one") << chain << labels << expected;
+    }
+    void labelsInOnePass()
+    {
+        QFETCH(QString, lines);
+        QFETCH(QStringList, labels);
+        QFETCH(QStringList, expected);
+        const QString answer = answerWith(lines);
+        QList<RailReference> rows;
+        for (const QString &label : labels)
+            rows.append({label + QStringLiteral("_net"), label, QStringLiteral("1.000"), {}});
+        const QList<RailMeasurement> out = RailEngine::ProcessaLeituras(answer, rows, {});
+        QCOMPARE(out.size(), rows.size());
+        for (qsizetype i = 0; i < rows.size(); ++i) {
+            QCOMPARE(out[i].leitura, RailEngine::readRail(answer, rows[i], {}).leitura);
+            QCOMPARE(out[i].leitura, expected[i]);
+        }
+    }
+
     // Every verdict comes from the numeric deviation of the whole value, whatever the shown text.
     void verdict_data()
     {
