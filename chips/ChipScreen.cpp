@@ -130,6 +130,11 @@ void ChipScreen::setUp()
         layoutForModel();
         retranslate();
     });
+    // A phone that is gone will not answer: the button must not wait for it.
+    connect(&session(), &Session::connectionFlagChanged, this, [this](const QString &flag) {
+        if (flag == QLatin1String("0"))
+            m_btExecutaLeitura->setEnabled(true);
+    });
 
     addControls();
     layoutForModel();
