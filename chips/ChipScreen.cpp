@@ -369,7 +369,9 @@ void ChipScreen::paintResult(const ChipResult &result)
                 paint(value, Green);
         } else if (r.verdict == Verdict::Fail) {
             paint(deviation, Yellow);
-            if (row.valuePaint != ValuePaint::Never)
+            // A missing value is marked on its deviation label and image; its caption says why.
+            const bool missing = r.state == ChipReading::State::Missing;
+            if (row.valuePaint == ValuePaint::Always || (row.valuePaint == ValuePaint::OnFailure && !missing))
                 paint(value, Yellow);
             for (const QString &name : row.failLabels)
                 paint(label(name), Yellow);
