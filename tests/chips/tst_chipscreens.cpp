@@ -247,10 +247,10 @@ private slots:
         QCOMPARE(labelOf(&screen, "lbUC")->text(), QStringLiteral("U5600"));
 
         auto *touch = screen.findChild<QPushButton *>(QStringLiteral("btTouch"));
-        QCOMPARE(touch->text(), QStringLiteral("Desligar Touch")); // "Touch OFF": what the press does
+        QCOMPARE(touch->text(), QStringLiteral("Touch OFF")); // what the next press does
         touch->click();
         QCOMPARE(b.port.written.last(), QByteArray("touch --off\r"));
-        QCOMPARE(touch->text(), QStringLiteral("Ligar Touch"));
+        QCOMPARE(touch->text(), QStringLiteral("Touch ON"));
         QCOMPARE(labelOf(&screen, "iLDO_V_1")->text(), QString());
         QVERIFY(screen.timer1().isActive());
         screen.onTimer1(); // the touch answer is still coming: wait
