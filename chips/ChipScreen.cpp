@@ -130,6 +130,11 @@ void ChipScreen::setUp()
         layoutForModel();
         retranslate();
     });
+    // A phone that is gone will not answer: the button must not wait for it.
+    connect(&session(), &Session::connectionFlagChanged, this, [this](const QString &flag) {
+        if (flag == QLatin1String("0"))
+            m_btExecutaLeitura->setEnabled(true);
+    });
 
     addControls();
     layoutForModel();
@@ -364,7 +369,9 @@ void ChipScreen::paintResult(const ChipResult &result)
                 paint(value, Green);
         } else if (r.verdict == Verdict::Fail) {
             paint(deviation, Yellow);
-            if (row.valuePaint != ValuePaint::Never)
+            // A missing value is marked on its deviation label and image; its caption says why.
+            const bool missing = r.state == ChipReading::State::Missing;
+            if (row.valuePaint == ValuePaint::Always || (row.valuePaint == ValuePaint::OnFailure && !missing))
                 paint(value, Yellow);
             for (const QString &name : row.failLabels)
                 paint(label(name), Yellow);

@@ -44,6 +44,7 @@ void Tigris::layoutForModel()
 {
     const bool second = ChipTables::hasSecondVbus(session().modelo());
     m_frame->setVisible(second);
+    label(QStringLiteral("VBus_A1"))->setVisible(second); // one bus: its current is already shown
     label(QStringLiteral("lb_VBus2"))->setVisible(second);
     label(QStringLiteral("lb_VBus1"))->setText(second ? QStringLiteral("VBUS 1") : QStringLiteral("VBUS"));
 }

@@ -3,6 +3,7 @@
 
 #include "FuzzInput.h"
 #include "NumberRoutines.h"
+#include "RailEngine.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {

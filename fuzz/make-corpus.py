@@ -66,6 +66,14 @@ def main():
             "nanduid": b"\x00" + answer("ip7/nanduid.txt") + RS + answer("ip7/nanduid.txt") + RS + b"0x",
             "long": b"\x01" + answer("common/help.txt")[:400],
         },
+        "fuzz_chip_engine": {
+            # chip (low two bits) and model (the rest) / the answer
+            "tigris-ip8": bytes([0 + 4 * 6]) + line(b"pmuadc --sel tigris --read all", answer("ip8/tigris.txt")),
+            "tristar-ip6": bytes([1 + 4 * 0]) + line(b"pmuadc --read all", answer("ip6/pmuadc-all.txt")),
+            "chestnut-ip7": bytes([2 + 4 * 4]) + line(b"pmuadc --sel chestnut --read all", answer("ip7/chestnut.txt")),
+            "acorn-ipx": bytes([3 + 4 * 8]) + line(b"pmuadc --read all", answer("ipx/pmuadc-all.txt")),
+            "end": bytes([2 + 4 * 4]) + b"chestnut vldo1 : 5700.0",
+        },
         "fuzz_number_routines": {
             # text / reference
             "mv": b"4998.000" + RS + b"4.998",

@@ -1,6 +1,6 @@
 #include "BuckEngine.h"
 
-#include "NumberRoutines.h"
+#include "RailEngine.h"
 
 
 namespace {

@@ -3,6 +3,7 @@
 // a model. It holds no widgets and touches no database: the rail screens and the command line
 // hand it the answer and the reference rows, then paint, print or store what it returns.
 
+#include "NumberRoutines.h" // milivoltsToVolts, which the rail and buck engines use
 #include "Verdict.h"
 
 #include <QList>
