@@ -38,6 +38,7 @@ public:
     void critical(QWidget *, const QString &, const QString &) override {}
     bool question(QWidget *, const QString &, const QString &) override { return false; }
     std::optional<QString> input(QWidget *, const QString &, const QString &, const QString &) override { return {}; }
+    std::optional<QString> saveFileName(QWidget *, const QString &, const QString &) override { return {}; }
 };
 
 double medianUs(QList<qint64> v)
