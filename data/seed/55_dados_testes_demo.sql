@@ -1,7 +1,7 @@
 -- Demo recordings: the simulated phone's good-board answer to each test kept under a key word, per
 -- model, exactly as the console shows it (masked like the masking tool leaves it). These are
--- illustrative, not readings of real boards. Written by tests/comparator/tst_demodados
--- (VEKTO_WRITE_DEMO_SEEDS=data/seed), which also checks them against the simulator.
+-- illustrative, not readings of real boards. Written by vekto-demoseeds;
+-- the comparator tests check them against the simulator.
 INSERT INTO Dados (Aparelho, Comando, Dados, Info, Info2, Info3) VALUES ('IP 6', 'TRISTAR',
 replace('
 tristar --read dx1 --read dx2  --read acc1  --read acc2  --read idx --read vdx', char(10), char(13, 10)) || char(13) || replace('
