@@ -268,7 +268,10 @@ private slots:
             malhas << grid->record(row).value(QStringLiteral("Malha")).toString();
         }
         QStringList sorted = malhas;
-        sorted.sort(); // the grid keeps the order of the query: by Malha as the text stands
+        // The grid keeps the order of the query: by Malha, letter case ignored (SQLite folds
+        // A-Z to a-z, so "_" sorts before "I").
+        std::stable_sort(sorted.begin(), sorted.end(),
+                         [](const QString &a, const QString &b) { return a.toLower() < b.toLower(); });
         QCOMPARE(malhas, sorted);
 
         auto *view = child<QTableView>(&screen, "DBGrid1");
