@@ -355,6 +355,9 @@ private slots:
         QTest::newRow("VAR2 rail") << "PP_SRAM_VAR2" << "0.800" << "0.500 V" << "-37,5 %" << none;
         QTest::newRow("not read") << "PP_CPU" << "0.900" << "" << "" << none;
         QTest::newRow("no reference") << "PP_X" << "" << "0.500 V" << "" << none;
+        QTest::newRow("reference 0 is not judged") << "PP_X" << "0" << "0.500 V" << "0 %" << none;
+        // The verdict comes from the numbers, not from a percentage text cut for the grid.
+        QTest::newRow("absurd reading with a short text") << "PP_CPU" << "0.900" << "9000.000 V" << "99999" << fail;
     }
     void rowVerdict()
     {
