@@ -149,9 +149,12 @@ def pmuadc(model, family, rails):
             lines.append("acorn %s : %s %s" % (name, fmt(v, "mV" if unit == "mV" else "mA"), unit))
     return "\n".join(lines) + "\n"
 
+def serial_number(name):
+    return "F17" + hashlib.sha256(name.encode()).hexdigest().upper()[:9]
+
 def syscfg_list(name, rmd):
     seed = hashlib.sha256(name.encode()).hexdigest().upper()
-    keys = [("SrNm", "F17" + seed[:9]), ("Mod#", "MN" + seed[9:13] + "LL/A"), ("Regn", "LL/A"),
+    keys = [("SrNm", serial_number(name)), ("Mod#", "MN" + seed[9:13] + "LL/A"), ("Regn", "LL/A"),
             ("RMd#", rmd), ("MLB#", "C07" + seed[13:27]), ("BMac", ":".join(seed[i:i+2] for i in range(0, 12, 2))),
             ("WMac", ":".join(seed[i:i+2] for i in range(12, 24, 2))), ("NvSn", seed[24:40]),
             ("Batt", "F5D" + seed[40:54]), ("LCM#", "C11" + seed[30:46]), ("CLHS", "0x00000001"),
@@ -241,6 +244,7 @@ def main():
             rails_rows.append("\t".join([name, str(orig), label, fmt(nom, unit), unit, net, chip,
                                          str(cls), refv(nom, unit)]))
         add("syscfg print RMd#", "syscfg-rmd.txt", rmd + "\n")
+        add("syscfg print SrNm", "syscfg-srnm.txt", serial_number(name) + "\n")
         add("pmuadc --read all", "pmuadc-all.txt", pmuadc(name, family, rails))
         # Plain buck read and the per-buck self test, from the same rail rows.
         bucks = sorted(((int(l[5:-1]), nom) for l, nom, u, *_ in rails if l.startswith("vbuck")))
