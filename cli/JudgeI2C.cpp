@@ -89,7 +89,8 @@ private:
     Database m_db;
 };
 
-// One report over the judged buses: a row per device, the failure list as the screen builds it.
+} // namespace
+
 JudgeReport i2cReport(const QString &model, const QList<I2CBusResult> &buses)
 {
     JudgeReport report;
@@ -109,6 +110,24 @@ JudgeReport i2cReport(const QString &model, const QList<I2CBusResult> &buses)
                     {QStringLiteral("FrameResultadoOK"), failures.isEmpty()}};
     return report;
 }
+
+JudgeReport icReport(const QString &model, int kind, const QString &answer)
+{
+    JudgeReport report;
+    report.engine = QStringLiteral("ic");
+    report.model = model;
+    const bool arrived = ICCheck::arrived(answer);
+    report.statusVerdict = arrived ? ICCheck::judge(kind, answer) : Verdict::None;
+    const QString status = ICCheck::statusKey(report.statusVerdict);
+    report.status = status.isEmpty() ? QJsonValue() : QJsonValue(status);
+    report.extra = {{QStringLiteral("chip"), ICCheck::chipName(model)},
+                    {QStringLiteral("command"), ICCheck::command(kind)},
+                    {QStringLiteral("arrived"), arrived},
+                    {QStringLiteral("length"), int(answer.size())}};
+    return report;
+}
+
+namespace {
 
 void printText(const JudgeReport &report, QTextStream &out)
 {
@@ -171,17 +190,7 @@ int runJudgeIC(const QStringList &args, QTextStream &out, QTextStream &err)
     if (!answer)
         return 2;
 
-    JudgeReport report;
-    report.engine = QStringLiteral("ic");
-    report.model = model;
-    const bool arrived = ICCheck::arrived(*answer);
-    report.statusVerdict = arrived ? ICCheck::judge(kind, *answer) : Verdict::None;
-    const QString status = ICCheck::statusKey(report.statusVerdict);
-    report.status = status.isEmpty() ? QJsonValue() : QJsonValue(status);
-    report.extra = {{QStringLiteral("chip"), ICCheck::chipName(model)},
-                    {QStringLiteral("command"), ICCheck::command(kind)},
-                    {QStringLiteral("arrived"), arrived},
-                    {QStringLiteral("length"), int(answer->size())}};
+    const JudgeReport report = icReport(model, kind, *answer);
     report.print(out, parser.isSet(QStringLiteral("json")));
     if (!parser.isSet(QStringLiteral("json")))
         out << QStringLiteral("chip: ") << ICCheck::chipName(model) << '\n';

@@ -37,6 +37,8 @@ public:
     // Why the model could not be looked up in the database (naming the file); empty when it could.
     const QString &databaseError() const { return m_databaseError; }
     Session &session() { return m_session; }
+    // For a run of several exchanges driven by signals (the board check).
+    ConsoleExchange &consoleExchange() { return m_exchange; }
     const QString &modelNumber() const { return m_modelNumber; }
 
 private:

@@ -1,5 +1,6 @@
 // vekto-cli: the tool's engines without a window, for scripts, support and tests.
 #include "BoardTestCommand.h"
+#include "CheckCommand.h"
 #include "CliCommands.h"
 #include "CliOutput.h"
 #include "JudgeChips.h"
@@ -10,13 +11,25 @@
 #include "RunRails.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QTextStream>
 #include <functional>
 #include <map>
+#include <memory>
 
 int main(int argc, char **argv)
 {
-    QCoreApplication app(argc, argv);
+    // The check's report lays text out in fonts, which takes a GUI application; without a display
+    // it runs on the offscreen platform. Every other command stays a plain console program.
+    std::unique_ptr<QCoreApplication> application;
+    if (argc > 1 && qstrcmp(argv[1], "check") == 0) {
+        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+        application = std::make_unique<QGuiApplication>(argc, argv);
+    } else {
+        application = std::make_unique<QCoreApplication>(argc, argv);
+    }
+    QCoreApplication &app = *application;
     QCoreApplication::setApplicationName(QStringLiteral("vekto-cli"));
 
     const std::map<QString, std::function<int(const QStringList &)>> commands{
@@ -41,6 +54,14 @@ int main(int argc, char **argv)
                  return runJudgeRf(a.mid(1), out, err);
              return runJudgeRails(a, out, err);
          }},
+        {QStringLiteral("check"), [](const QStringList &a) {
+             QTextStream out(stdout), err(stderr);
+             return runCheck(a, out, err);
+         }},
+        {QStringLiteral("history"), [](const QStringList &a) {
+             QTextStream out(stdout), err(stderr);
+             return runHistory(a, out, err);
+         }},
         {QStringLiteral("run"), [](const QStringList &a) {
              QTextStream out(stdout), err(stderr);
              if (isChipEngine(a.value(0)))
@@ -59,7 +80,8 @@ int main(int argc, char **argv)
     if (command == commands.end()) {
         Cli::err(QStringLiteral("usage: vekto-cli ports | send --port P TEXT | identify --port P [--db FILE]"
                                " | judge ENGINE ... | run ENGINE ... | import --from FILE [--db FILE]"
-                               " | update-check [--url URL]"));
+                               " | update-check [--url URL]"
+                               " | check --port P --model M|auto ... | history --serial S [--db FILE]"));
         return 2;
     }
     return command->second(args.mid(1));

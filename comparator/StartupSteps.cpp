@@ -64,7 +64,7 @@ std::optional<int> migrateConfig(const QString &configPath, Dialogs &dialogs)
 bool upgradeConfig(const QString &configPath, QString *error)
 {
     Database db(configPath);
-    const bool ok = db.addMissingToolsColumns();
+    const bool ok = db.addMissingToolsColumns() && db.addMissingCheckTables();
     if (!ok && error)
         *error = db.lastError();
     return ok;

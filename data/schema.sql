@@ -3,7 +3,8 @@
 -- number. The key and sort columns ignore letter case (COLLATE NOCASE), as the Access file did:
 -- "help" finds the recorded "Help", and lists and masks sort as technicians have always seen
 -- them. Existing files get the same collation at start-up (Database::upgradeCollation).
--- No table has a primary key: rows are found by their logical keys, which the indexes cover.
+-- No table has a primary key but the check history: rows are found by their logical keys, which
+-- the indexes cover.
 
 -- Console commands offered in the command console, with a help text per language.
 CREATE TABLE Comandos (
@@ -104,3 +105,28 @@ CREATE TABLE Tools (
     UrlSuporte2 TEXT,
     Termos      TEXT
 );
+
+-- The history of board checks: one row per check (its Id ties the result rows to it) and one per
+-- judged result row, in the order the check listed them. Veredito is pass, fail, none or noanswer.
+-- Existing files get both tables at start-up (Database::addMissingCheckTables).
+CREATE TABLE Checagem (
+    Id       INTEGER PRIMARY KEY AUTOINCREMENT,
+    Data     TEXT,
+    Modelo   TEXT COLLATE NOCASE,
+    Serie    TEXT COLLATE NOCASE,
+    Versao   TEXT,
+    Completa INTEGER
+);
+CREATE INDEX Checagem_Serie ON Checagem (Serie);
+
+CREATE TABLE ChecagemLinha (
+    Checagem INTEGER,
+    Ordem    INTEGER,
+    Etapa    TEXT,
+    Nome     TEXT,
+    Rotulo   TEXT,
+    Legenda  TEXT,
+    Desvio   TEXT,
+    Veredito TEXT
+);
+CREATE INDEX ChecagemLinha_Checagem ON ChecagemLinha (Checagem, Ordem);

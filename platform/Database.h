@@ -125,6 +125,17 @@ public:
     std::optional<QString> toolsText(const QString &column);
     bool setToolsText(const QString &column, const QString &value);
 
+    // --- Checagem, ChecagemLinha: the history of board checks ------------------------------
+    // Tables added after the first release; an older file gets them (empty) at start-up.
+    bool addMissingCheckTables();
+    // The check and all its rows in one transaction; the new check's id, or nothing (then
+    // nothing of it was stored and lastError() says why).
+    std::optional<qint64> storeCheck(const CheckRecord &check);
+    // The checks of one serial number, newest first, without their rows.
+    QList<CheckRecord> checks(const QString &serie);
+    // One check with its rows in stored order; nothing when there is no such check.
+    std::optional<CheckRecord> check(qint64 id);
+
     // Runs `work` as one transaction: either all of its writes land or none. Writes made through
     // this object inside `work` join it instead of committing on their own.
     bool transaction(const std::function<bool()> &work) { return inTransaction(work); }

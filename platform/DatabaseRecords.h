@@ -95,3 +95,29 @@ struct RfRow
     QString referencia;
     bool operator==(const RfRow &) const = default;
 };
+
+// One judged row of a stored board check (table ChecagemLinha). `veredito` is "pass", "fail",
+// "none", or "noanswer" for a step the phone did not answer.
+struct CheckRowRecord
+{
+    QString etapa;   // the step's key: "rails", "i2c2", "nandsize" …
+    QString nome;    // the result control, net or device address
+    QString rotulo;  // the label searched in the answer
+    QString legenda; // what the screen showed
+    QString desvio;  // the per-cent text, or empty
+    QString veredito;
+    bool operator==(const CheckRowRecord &) const = default;
+};
+
+// One stored board check (table Checagem): when, which board, which program, whether every
+// step ran. `rows` is only filled when the rows were asked for.
+struct CheckRecord
+{
+    qint64 id = 0;
+    QString data; // ISO date and time, local
+    QString modelo;
+    QString serie;
+    QString versao;
+    bool completa = false;
+    QList<CheckRowRecord> rows;
+};

@@ -10,6 +10,7 @@ packages=(
   xvfb xauth
   libbenchmark-dev
   sqlite3
+  poppler-utils
 )
 
 missing=()
