@@ -5,6 +5,7 @@
 #include "BuckTeste.h"
 #include "Acorn.h"
 #include "Chestnut.h"
+#include "Checagem.h"
 #include "I2C.h"
 #include "IC.h"
 #include "Inicial.h"
@@ -105,6 +106,9 @@ void registerAll(Inicial &inicial, Shell &shell)
                                });
                                return screen;
                            });
+    // Every test of the model in one run, after the elements the program always had.
+    inicial.registerScreen(18, QStringLiteral("Checagem"), QStringLiteral("Checagem da placa"),
+                           [](const ScreenContext &ctx) -> QWidget * { return new Checagem(ctx); });
 }
 
 QStringList names()
@@ -113,7 +117,7 @@ QStringList names()
             QStringLiteral("BuckTeste"), QStringLiteral("Tigris"), QStringLiteral("Tristar"), QStringLiteral("Chestnut"),
             QStringLiteral("Acorn"), QStringLiteral("Nand"), QStringLiteral("Outros"), QStringLiteral("Bateria"),
             QStringLiteral("IC"), QStringLiteral("I2C"), QStringLiteral("RFs"), QStringLiteral("RFs_Esq"),
-            QStringLiteral("Displays"), QStringLiteral("Sobre")};
+            QStringLiteral("Displays"), QStringLiteral("Sobre"), QStringLiteral("Checagem")};
 }
 
 } // namespace Screens
