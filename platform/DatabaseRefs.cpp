@@ -151,9 +151,10 @@ bool Database::addMasterRow(const MasterRow &r)
 QList<RefUndoRow> Database::refUndo(const QString &model)
 {
     QList<RefUndoRow> rows;
-    QSqlQuery query = prepare(QStringLiteral("SELECT Malha, refv, HadOrigin, Model, Malha, Value, Source, Boards, "
-                                             "Serials, At, Version, File, FileDate FROM RefUndo WHERE Model = ? "
-                                             "ORDER BY rowid"),
+    // The origin columns in RefOrigin's order, Kind taken as "rail" and Item as the net.
+    QSqlQuery query = prepare(QStringLiteral("SELECT Malha, refv, HadOrigin, 'rail', Model, Malha, Value, Source, "
+                                             "Boards, Serials, At, Version, File, FileDate FROM RefUndo "
+                                             "WHERE Model = ? ORDER BY rowid"),
                               {model});
     query.setForwardOnly(true);
     if (!exec(query))
@@ -162,12 +163,8 @@ QList<RefUndoRow> Database::refUndo(const QString &model)
         RefUndoRow row;
         row.malha = query.value(0).toString();
         row.refv = query.value(1).toString();
-        if (query.value(2).toInt() != 0) {
-            // Columns 2.. line up with readOrigin's order once Kind is taken as "rail".
-            RefOrigin o = readOrigin(query, 2);
-            o.kind = QStringLiteral("rail");
-            row.origin = o;
-        }
+        if (query.value(2).toInt() != 0)
+            row.origin = readOrigin(query, 3);
         rows.append(row);
     }
     return rows;
