@@ -208,6 +208,30 @@ private slots:
         QVERIFY(cell(QStringLiteral("PP_CPU"), "Leitura", Qt::ToolTipRole).toString().startsWith(QLatin1String("Learned from 1 board")));
         QVERIFY(cell(QStringLiteral("PP_GPU"), "refv", Qt::FontRole).value<QFont>().italic());
     }
+
+    // While a reading runs the recorded slots may be about to change: nothing is learned.
+    void learningWaitsForTheReading()
+    {
+        ConfigFile config;
+        Session session(config.path);
+        SilentPort port;
+        ConsoleExchange exchange(session, port);
+        FakeDialogs dialogs;
+        session.setModelo(QStringLiteral("IP 7"));
+        session.setConnectionFlag(QStringLiteral("1"));
+        session.setConnectionValidated(true);
+        {
+            Database db(config.path);
+            QVERIFY(db.setRecordings({QStringLiteral("IP 7"), QStringLiteral("PP_CPU")}, QStringLiteral("0.880 V"), {}, {}));
+        }
+        VCores screen({session, exchange, dialogs});
+        screen.ExecutaLeitura();
+        QVERIFY(screen.readingUnderWay());
+        screen.aprender();
+        QCOMPARE(dialogs.shown.size(), 1);
+        QVERIFY2(dialogs.shown.first().startsWith(QLatin1String("info:")), qPrintable(dialogs.shown.first()));
+        QCOMPARE(Database(config.path).masterRow(QStringLiteral("IP 7"), QStringLiteral("PP_CPU"))->refv, QStringLiteral("0.900"));
+    }
 };
 
 QTEST_MAIN(TestRailRefs)
