@@ -3,6 +3,7 @@
 #include "ConsoleExchange.h"
 #include "Database.h"
 #include "Dialogs.h"
+#include "GridColumns.h"
 #include "RailLearning.h"
 #include "RailOriginModel.h"
 #include "RailVerdictModel.h"
@@ -24,7 +25,7 @@ const QStringList AllChips = {QStringLiteral("IC's"), QStringLiteral("CPU/NAND")
 const QStringList ReadingChips = {QStringLiteral("IC's"), QStringLiteral("CPU"), QStringLiteral("GPU"),
                                   QStringLiteral("NAND")};
 // Grid columns and their caption keys; the other columns of Master stay hidden.
-const QList<QPair<QString, QString>> GridColumns = {
+const GridColumns Columns = {
     {QStringLiteral("Malha"), QStringLiteral("Malha")},       {QStringLiteral("refv"), QStringLiteral("Referência")},
     {QStringLiteral("Leitura"), QStringLiteral("Leitura")},   {QStringLiteral("Porc"), QStringLiteral("Classificação")},
     {QStringLiteral("G1"), QStringLiteral("Gravação")},       {QStringLiteral("G2"), QStringLiteral("Gravação")},
@@ -151,7 +152,7 @@ void RailScreen::retranslate()
     ui->btDesfazer->setText(Traduz(QStringLiteral("REF_DESFAZER")));
 
     const QSqlRecord record = m_data1->record();
-    for (const auto &[column, key] : GridColumns) {
+    for (const auto &[column, key] : Columns) {
         const int index = record.indexOf(column);
         if (index < 0)
             continue;
@@ -225,12 +226,7 @@ void RailScreen::bindGrid(const MasterFilter &filter)
     m_data1->setQuery(m_db->masterQuery(filter));
     while (m_data1->canFetchMore())
         m_data1->fetchMore();
-    const QSqlRecord record = m_data1->record();
-    for (int i = 0; i < record.count(); ++i) {
-        const bool shown = std::any_of(GridColumns.begin(), GridColumns.end(),
-                                       [&](const auto &c) { return c.first == record.fieldName(i); });
-        ui->grid->setColumnHidden(i, !shown);
-    }
+    showOnlyGridColumns(ui->grid, m_data1->record(), Columns);
     retranslate();
 }
 
