@@ -2,6 +2,7 @@
 
 #include "Database.h"
 #include "Dialogs.h"
+#include "GridColumns.h"
 #include "Inicial.h"
 #include "RadioEngine.h"
 #include "Session.h"
@@ -14,7 +15,7 @@
 namespace {
 
 // Grid columns and their caption keys; Modelo and Tipo only select the rows.
-const QList<QPair<QString, QString>> GridColumns = {
+const GridColumns Columns = {
     {QStringLiteral("Malha"), QStringLiteral("Malha")},
     {QStringLiteral("Componente"), QStringLiteral("Componente")},
     {QStringLiteral("Referencia"), QStringLiteral("Referência")},
@@ -56,7 +57,7 @@ void RFs_Esq::retranslate()
     ui->lbREF->setText(Traduz(QStringLiteral("VALORES DE REFERÊNCIA RF")));
     ui->lbModelo->setText(Traduz(QStringLiteral("Modelo:")));
     const QSqlRecord record = m_data1->record();
-    for (const auto &[column, key] : GridColumns) {
+    for (const auto &[column, key] : Columns) {
         const int index = record.indexOf(column);
         if (index >= 0)
             m_data1->setHeaderData(index, Qt::Horizontal, Traduz(key));
@@ -84,12 +85,7 @@ void RFs_Esq::CarregaReferenciasRF(const QString &modelo)
         storeFailed();
     while (m_data1->canFetchMore())
         m_data1->fetchMore();
-    const QSqlRecord record = m_data1->record();
-    for (int i = 0; i < record.count(); ++i) {
-        const bool shown = std::any_of(GridColumns.begin(), GridColumns.end(),
-                                       [&](const auto &c) { return c.first == record.fieldName(i); });
-        ui->DBGrid1->setColumnHidden(i, !shown);
-    }
+    showOnlyGridColumns(ui->DBGrid1, m_data1->record(), Columns);
     retranslate();
 }
 

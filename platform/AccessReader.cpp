@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
+#include <memory>
 
 #include <mdbtools.h>
 
@@ -39,6 +40,24 @@ MdbCatalogEntry *findTable(MdbHandle *mdb, const QString &name)
             return entry;
     }
     return nullptr;
+}
+
+// The table with its column list read, or null with the reason in *error.
+std::unique_ptr<TableDef> openTable(void *h, const QString &table, QString *error)
+{
+    if (!h)
+        return nullptr;
+    MdbCatalogEntry *entry = findTable(handle(h), table);
+    if (!entry) {
+        *error = QStringLiteral("table %1 is missing").arg(table);
+        return nullptr;
+    }
+    auto def = std::make_unique<TableDef>(mdb_read_table(entry));
+    if (!def->table || !mdb_read_columns(def->table)) {
+        *error = QStringLiteral("table %1 cannot be read").arg(table);
+        return nullptr;
+    }
+    return def;
 }
 
 } // namespace
@@ -104,38 +123,20 @@ QStringList AccessReader::tables() const
 
 std::optional<QStringList> AccessReader::columns(const QString &table)
 {
-    if (!m_handle)
+    const std::unique_ptr<TableDef> def = openTable(m_handle, table, &m_lastError);
+    if (!def)
         return std::nullopt;
-    MdbCatalogEntry *entry = findTable(handle(m_handle), table);
-    if (!entry) {
-        m_lastError = QStringLiteral("table %1 is missing").arg(table);
-        return std::nullopt;
-    }
-    TableDef def(mdb_read_table(entry));
-    if (!def.table || !mdb_read_columns(def.table)) {
-        m_lastError = QStringLiteral("table %1 cannot be read").arg(table);
-        return std::nullopt;
-    }
     QStringList names;
-    for (unsigned c = 0; c < def.table->num_cols; ++c)
-        names << QString::fromUtf8(static_cast<MdbColumn *>(g_ptr_array_index(def.table->columns, c))->name);
+    for (unsigned c = 0; c < def->table->num_cols; ++c)
+        names << QString::fromUtf8(static_cast<MdbColumn *>(g_ptr_array_index(def->table->columns, c))->name);
     return names;
 }
 
 std::optional<QList<QStringList>> AccessReader::rows(const QString &table, const QStringList &columns)
 {
-    if (!m_handle)
+    const std::unique_ptr<TableDef> def = openTable(m_handle, table, &m_lastError);
+    if (!def)
         return std::nullopt;
-    MdbCatalogEntry *entry = findTable(handle(m_handle), table);
-    if (!entry) {
-        m_lastError = QStringLiteral("table %1 is missing").arg(table);
-        return std::nullopt;
-    }
-    TableDef def(mdb_read_table(entry));
-    if (!def.table || !mdb_read_columns(def.table)) {
-        m_lastError = QStringLiteral("table %1 cannot be read").arg(table);
-        return std::nullopt;
-    }
 
     // One bound buffer per table column asked for (libmdb keeps one binding per column, so a
     // column named twice shares its buffer); libmdb writes each fetched value into it as UTF-8.
@@ -143,8 +144,8 @@ std::optional<QList<QStringList>> AccessReader::rows(const QString &table, const
     QList<int> bound;  // table columns with a buffer, in binding order
     for (const QString &name : columns) {
         int found = -1;
-        for (unsigned c = 0; c < def.table->num_cols; ++c) {
-            const auto *column = static_cast<MdbColumn *>(g_ptr_array_index(def.table->columns, c));
+        for (unsigned c = 0; c < def->table->num_cols; ++c) {
+            const auto *column = static_cast<MdbColumn *>(g_ptr_array_index(def->table->columns, c));
             if (QString::fromUtf8(column->name).compare(name, Qt::CaseInsensitive) == 0) {
                 found = static_cast<int>(c);
                 break;
@@ -162,12 +163,12 @@ std::optional<QList<QStringList>> AccessReader::rows(const QString &table, const
     QList<int> lengths(bound.size(), 0);
     for (qsizetype n = 0; n < bound.size(); ++n) {
         buffers[n] = QByteArray(static_cast<qsizetype>(kBindSize) + 1, '\0');
-        mdb_bind_column(def.table, bound.at(n) + 1, buffers[n].data(), &lengths[n]);
+        mdb_bind_column(def->table, bound.at(n) + 1, buffers[n].data(), &lengths[n]);
     }
 
     QList<QStringList> result;
-    mdb_rewind_table(def.table);
-    while (mdb_fetch_row(def.table)) {
+    mdb_rewind_table(def->table);
+    while (mdb_fetch_row(def->table)) {
         QStringList row;
         row.reserve(columns.size());
         for (const int column : std::as_const(picked)) {

@@ -1,52 +1,16 @@
 // The history of board checks: one row per check, one per judged row, so a board's state before
-// and after a repair can be laid side by side. Tables created here for files made before they
-// existed; a check is stored whole or not at all.
+// and after a repair can be laid side by side. A check is stored whole or not at all; a file made
+// before the history gets its tables with the check's own transaction.
 #include "Database.h"
 
 #include <QSqlQuery>
 #include <QVariant>
 
-namespace {
-
-const QString CreateChecagem = QStringLiteral(
-    "CREATE TABLE IF NOT EXISTS Checagem (Id INTEGER PRIMARY KEY AUTOINCREMENT, Data TEXT, "
-    "Modelo TEXT COLLATE NOCASE, Serie TEXT COLLATE NOCASE, Versao TEXT, Completa INTEGER)");
-const QString CreateChecagemIndex =
-    QStringLiteral("CREATE INDEX IF NOT EXISTS Checagem_Serie ON Checagem (Serie)");
-const QString CreateLinha = QStringLiteral(
-    "CREATE TABLE IF NOT EXISTS ChecagemLinha (Checagem INTEGER, Ordem INTEGER, Etapa TEXT, Nome TEXT, "
-    "Rotulo TEXT, Legenda TEXT, Desvio TEXT, Veredito TEXT)");
-const QString CreateLinhaIndex =
-    QStringLiteral("CREATE INDEX IF NOT EXISTS ChecagemLinha_Checagem ON ChecagemLinha (Checagem, Ordem)");
-
-} // namespace
-
-bool Database::addMissingCheckTables()
-{
-    if (!ready())
-        return false;
-    QStringList present;
-    {
-        QSqlQuery q = prepare(QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' "
-                                             "AND name IN ('Checagem', 'ChecagemLinha')"));
-        if (!exec(q))
-            return false;
-        while (q.next())
-            present << q.value(0).toString();
-    }
-    if (present.size() == 2)
-        return true;
-    return inTransaction([&] {
-        return execute(CreateChecagem) && execute(CreateChecagemIndex) && execute(CreateLinha)
-            && execute(CreateLinhaIndex);
-    });
-}
-
 std::optional<qint64> Database::storeCheck(const CheckRecord &check)
 {
     qint64 id = 0;
     const bool stored = inTransaction([&] {
-        if (!addMissingCheckTables())
+        if (!addMissingTables())
             return false;
         QSqlQuery head = prepare(QStringLiteral("INSERT INTO Checagem (Data, Modelo, Serie, Versao, Completa) "
                                                 "VALUES (?, ?, ?, ?, ?)"),
