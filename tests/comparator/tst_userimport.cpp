@@ -198,8 +198,11 @@ private slots:
         QTest::newRow("text file") << user << QByteArray("Modelo;Malha;G1\n") << "" << Problem::NotADatabase;
         QTest::newRow("SQLite header, then garbage") << user << QByteArray("SQLite format 3\0", 16) + QByteArray(4000, '\x55')
                                                      << "" << Problem::Unreadable;
-        QTest::newRow("Access signature only") << user << QByteArray("\x00\x01\x00\x00Standard Jet DB\x00", 20) << ""
-                                               << Problem::Unreadable;
+        QTest::newRow("NUL bytes") << user << QByteArray(64, '\0') << "" << Problem::NotADatabase;
+        QTest::newRow("Jet signature only") << user << QByteArray("\x00\x01\x00\x00Standard Jet DB\x00", 20) << ""
+                                            << Problem::Unreadable;
+        QTest::newRow("ACE signature only") << user << QByteArray("\x00\x01\x00\x00Standard ACE DB\x00", 20) << ""
+                                            << Problem::Unreadable;
         QTest::newRow("table missing") << user << QByteArray() << "DROP TABLE Combos" << Problem::OtherSchema;
         QTest::newRow("column missing") << user << QByteArray() << "ALTER TABLE Master DROP COLUMN G2" << Problem::OtherSchema;
         QTest::newRow("missing file") << "none.vkt" << QByteArray() << "" << Problem::Missing;

@@ -1,13 +1,12 @@
 // The database layer on real SQLite files built from the shipped schema and seeds: every query
 // round trip, quotes as plain characters, the text orders the screens rely on, writes that are
 // all-or-nothing, and a start-up check that tells each kind of bad file apart without touching it.
-// Then Access files read through libmdb, and a previous installation's file told apart by its
-// first bytes. The Access fixture lives beside the project (never copied into it); those tests
+// Then Access files read through libmdb (a previous installation's file told apart by its first
+// bytes is the import's table of bad sources). The Access fixture lives beside the project (never copied into it); those tests
 // skip when it is absent. Damaged copies are made in a temporary folder.
 #include "AccessReader.h"
 #include "Database.h"
 #include "DatabaseBuilder.h"
-#include "UserFile.h"
 #include "SqlFixture.h"
 
 #include <QTemporaryDir>
@@ -480,7 +479,6 @@ private slots:
         QTest::addColumn<QString>("detail"); // a part of the detail text
         QTest::newRow("good") << "good" << int(DatabaseProblem::None) << "";
         QTest::newRow("missing") << "missing" << int(DatabaseProblem::Missing) << "";
-        QTest::newRow("garbage") << "garbage" << int(DatabaseProblem::Corrupt) << "SQLite";
         QTest::newRow("text file") << "text" << int(DatabaseProblem::Corrupt) << "SQLite";
         QTest::newRow("Access file") << "access" << int(DatabaseProblem::Corrupt) << "Access format";
         QTest::newRow("damaged pages") << "damaged" << int(DatabaseProblem::Corrupt) << "";
@@ -499,11 +497,6 @@ private slots:
         std::unique_ptr<Raw> holder;
         if (kind == QLatin1String("missing")) {
             path = other;
-        } else if (kind == QLatin1String("garbage")) {
-            QByteArray bytes;
-            for (int n = 0; n < 4096; ++n)
-                bytes.append(char((n * 131 + 7) & 0xff));
-            writeFile(path = other, bytes);
         } else if (kind == QLatin1String("text")) {
             writeFile(path = other, "Modelo;Malha\nIP 7;PP_CPU\n");
         } else if (kind == QLatin1String("access")) {
@@ -645,35 +638,6 @@ private slots:
         QVERIFY(!reader.isOpen());
         QVERIFY(!reader.lastError().isEmpty());
         QCOMPARE(reader.rows(QStringLiteral("DateTest"), {QStringLiteral("IDCol")}), std::nullopt);
-    }
-
-    void formatByFirstBytes_data()
-    {
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<int>("format");
-        QTest::addColumn<int>("problem");
-        using F = UserFile::Format;
-        using P = UserFile::Problem;
-        QTest::newRow("empty") << QByteArray() << int(F::Empty) << int(P::Empty);
-        QTest::newRow("text") << QByteArray("Modelo;Malha\n") << int(F::Unknown) << int(P::NotADatabase);
-        QTest::newRow("NUL bytes") << QByteArray(64, '\0') << int(F::Unknown) << int(P::NotADatabase);
-        QTest::newRow("Jet signature, nothing more") << QByteArray("\x00\x01\x00\x00Standard Jet DB\x00", 20)
-                                                     << int(F::Access) << int(P::Unreadable);
-        QTest::newRow("ACE signature, nothing more") << QByteArray("\x00\x01\x00\x00Standard ACE DB\x00", 20)
-                                                     << int(F::Access) << int(P::Unreadable);
-        QTest::newRow("SQLite header, then garbage")
-            << QByteArray("SQLite format 3\0", 16) + QByteArray(200, '\x7f') << int(F::SQLite) << int(P::Unreadable);
-    }
-    void formatByFirstBytes()
-    {
-        QFETCH(QByteArray, content);
-        QTemporaryDir dir;
-        const QString path = dir.filePath(QStringLiteral("User.vkt"));
-        writeFile(path, content);
-        QTEST(int(UserFile::detect(path)), "format");
-        UserFile file(path);
-        QTEST(int(file.problem()), "problem");
-        QVERIFY(file.tables().isEmpty());
     }
 };
 
