@@ -387,10 +387,7 @@ private slots:
         QTest::addColumn<Kind>("kind");
         QTest::addColumn<QString>("message");
         QTest::newRow("OK") << 200 << QByteArray("OK") << false << Kind::Current << "";
-        QTest::newRow("optional") << 200 << QByteArray("[Nova versão 1.90](N)") << false << Kind::Optional
-                                  << "Nova versão 1.90";
-        QTest::newRow("mandatory") << 200 << QByteArray("[Obrigatória](O)") << false << Kind::Mandatory
-                                   << "Obrigatória";
+        QTest::newRow("mandatory") << 200 << QByteArray("[Obrigatória](O)") << false << Kind::Mandatory << "Obrigatória";
         QTest::newRow("500 with a notice in its body") << 500 << QByteArray("[x](O)") << false << Kind::NoAnswer << "";
         QTest::newRow("404") << 404 << QByteArray("not here") << false << Kind::NoAnswer << "";
         QTest::newRow("oversized") << 200 << QByteArray(10 * 1024 * 1024, 'A').prepend("[big](O)") << false
