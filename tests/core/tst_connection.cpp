@@ -83,29 +83,23 @@ class TestConnection : public QObject
         {
             session.setWindowTitle(QStringLiteral("Pelorin Vekto 1.81"));
             controller.setModelLookup([](const QString &number) -> std::optional<QString> {
-                if (number == QLatin1String("A1778"))
-                    return QStringLiteral("IP 7");
-                if (number == QLatin1String("A1865"))
-                    return QStringLiteral("IP X");
-                return std::nullopt;
+                const QHash<QString, QString> known{{"A1778", "IP 7"}, {"A1865", "IP X"}};
+                return known.contains(number) ? std::optional(known.value(number)) : std::nullopt;
             });
             // The phone echoes the command with its CR, then LF, its output and the prompt.
             port.onWrite = [this](const QByteArray &command) {
                 if (!answers.isEmpty())
                     port.arrive({command + '\n' + answers.takeFirst()});
             };
-            QObject::connect(&controller, &ConnectionController::message, &controller,
-                             [this](const QString &k, const QString &p) { messages << k + '|' + p; });
-            QObject::connect(&controller, &ConnectionController::modelRecognised, &controller,
-                             [this](const QString &m) { recognised << m; });
-            QObject::connect(&controller, &ConnectionController::buttonCaptionChanged, &controller,
-                             [this](const QString &k) { button = k; });
-            QObject::connect(&controller, &ConnectionController::statusLightChanged, &controller,
-                             [this](const QString &k) { light = k; });
-            QObject::connect(&controller, &ConnectionController::connectionLabelChanged, &controller,
-                             [this](const QString &k) { label = k; });
-            QObject::connect(&controller, &ConnectionController::refillPorts, &controller, [this] { ++refills; });
-            QObject::connect(&controller, &ConnectionController::focusModelCombo, &controller, [this] { ++focus; });
+            using C = ConnectionController;
+            const auto keep = [this](QString &into) { return [&into](const QString &k) { into = k; }; };
+            QObject::connect(&controller, &C::message, &controller, [this](const QString &k, const QString &p) { messages << k + '|' + p; });
+            QObject::connect(&controller, &C::modelRecognised, &controller, [this](const QString &m) { recognised << m; });
+            QObject::connect(&controller, &C::buttonCaptionChanged, &controller, keep(button));
+            QObject::connect(&controller, &C::statusLightChanged, &controller, keep(light));
+            QObject::connect(&controller, &C::connectionLabelChanged, &controller, keep(label));
+            QObject::connect(&controller, &C::refillPorts, &controller, [this] { ++refills; });
+            QObject::connect(&controller, &C::focusModelCombo, &controller, [this] { ++focus; });
             clock.add(exchange.timer1(), [this] { exchange.onTimer1(); });
             clock.add(exchange.timer2(), [this] { exchange.onTimer2(); });
             clock.add(controller.timerValidaPorta(), [this] { controller.onTimerValidaPorta(); });
