@@ -1,5 +1,5 @@
 // The chip readout engine against hand-written answers: how a value is cut and shown, where
-// each bound lies (inclusive or strict), which rows a model reads, and what bad answers do.
+// each bound lies (inclusive or strict), and what bad answers do.
 
 #include "ChipEngine.h"
 
@@ -184,46 +184,6 @@ private slots:
         const ChipReading &reading = readingOf(r, control);
         QCOMPARE(reading.deviationText().value_or(QString()), deviation);
         QCOMPARE(verdictText(reading.verdict), verdict);
-    }
-
-    // Which rows a model reads, their labels and names, and the chip's designator.
-    void models_data()
-    {
-        QTest::addColumn<int>("chip");
-        QTest::addColumn<QString>("model");
-        QTest::addColumn<int>("count");
-        QTest::addColumn<QString>("firstLabel");
-        QTest::addColumn<QString>("railName");
-        QTest::addColumn<QString>("designator");
-        const int tigris = int(Chip::Tigris), tristar = int(Chip::Tristar), chestnut = int(Chip::Chestnut);
-        QTest::newRow("Tigris IP 7 six rows") << tigris << "IP 7" << 6 << "tigris vbus :" << "" << "U2101";
-        QTest::newRow("Tigris IP 7 Plus six rows") << tigris << "IP 7 Plus" << 6 << "tigris vbus :" << "" << "U2101";
-        QTest::newRow("Tigris IP 8 ten rows") << tigris << "IP 8" << 10 << "tigris vbus :" << "" << "U3300";
-        QTest::newRow("Tigris IP X ten rows") << tigris << "IP X" << 10 << "tigris vbus :" << "" << "U3300";
-        QTest::newRow("Tigris IP 6s Plus") << tigris << "IP 6s Plus" << 6 << "tigris vbus :" << "" << "U2300";
-        QTest::newRow("Tigris unknown model") << tigris << "IP 5" << 6 << "tigris vbus :" << "" << "";
-        QTest::newRow("Tristar IP 6 Plus") << tristar << "IP 6 Plus" << 6 << "BIST ldo3:" << "PP3V0_TRISTAR" << "U1700";
-        QTest::newRow("Tristar IP 6s family") << tristar << "IP 6s" << 6 << "BIST ldo3:" << "PP3V0_TRISTAR" << "U4500";
-        QTest::newRow("Tristar IP 7 Plus") << tristar << "IP 7 Plus" << 6 << "BIST ldo7:" << "PP3V0_TRISTAR_ANT_PROX" << "U4001";
-        QTest::newRow("Tristar IP 8 Plus") << tristar << "IP 8 Plus" << 6 << "BIST ldo7:" << "PP3V0_S2" << "U6300";
-        QTest::newRow("Tristar IP X") << tristar << "IP X" << 6 << "BIST ldo7:" << "PP3V0_S2" << "U6300";
-        QTest::newRow("Chestnut IP 8 Plus") << chestnut << "IP 8 Plus" << 11 << "chestnut vldo1 :" << "" << "U5600";
-        QTest::newRow("Chestnut IP X has none") << chestnut << "IP X" << 11 << "chestnut vldo1 :" << "" << "";
-        QTest::newRow("Acorn") << int(Chip::Acorn) << "IP X" << 16 << "acorn ground :" << "" << "";
-    }
-    void models()
-    {
-        QFETCH(int, chip);
-        QFETCH(QString, model);
-        QFETCH(int, count);
-        QFETCH(QString, firstLabel);
-        QFETCH(QString, railName);
-        QFETCH(QString, designator);
-        const QList<ChipRow> rows = ChipTables::rows(Chip(chip), model);
-        QCOMPARE(rows.size(), count);
-        QCOMPARE(rows.first().label, firstLabel);
-        QCOMPARE(rows.first().railName, railName);
-        QCOMPARE(ChipTables::designator(Chip(chip), model), designator);
     }
 
     void ip7ReadsOnlySixEvenWhenMoreAreThere()

@@ -1,25 +1,18 @@
 // The command console end to end: the simulated phone on a pseudo-terminal, the real serial link,
 // connection and exchange with their timers, the console screen and a copy of Config.vkt. A good
 // board matches the shipped demo recording; an answer recorded here matches the next one.
+#include "CliRun.h"
 #include "ConnectionController.h"
-#include "ConsoleExchange.h"
 #include "ConsoleTextEdit.h"
 #include "Database.h"
-#include "FakeDialogs.h"
+#include "FakeShell.h"
 #include "Master.h"
-#include "QtSerialPort.h"
-#include "Session.h"
-#include "Shell.h"
+#include "SimProcess.h"
 
 #include <QComboBox>
-#include <QFile>
 #include <QFrame>
 #include <QLineEdit>
-#include <QProcess>
 #include <QPushButton>
-#include "FakeShell.h"
-
-#include <QTemporaryDir>
 #include <QtTest>
 
 class TestConsoleSim : public QObject
@@ -42,25 +35,16 @@ private slots:
         QFETCH(QString, model);
         QFETCH(QString, command);
         QFETCH(bool, keepDemo);
-        const QString sim = QStringLiteral(VEKTO_BIN_DIR "/vekto-sim");
-        if (!QFile::exists(sim) || !QFile::exists(QStringLiteral(VEKTO_BIN_DIR "/Config.vkt")))
+        if (!SimProcess::available())
             QSKIP("vekto-sim or Config.vkt was not built");
-
-        QTemporaryDir dir;
-        const QString path = dir.filePath(QStringLiteral("Config.vkt"));
-        QVERIFY(QFile::copy(QStringLiteral(VEKTO_BIN_DIR "/Config.vkt"), path));
-        QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
-        if (!keepDemo) {
-            Database db(path);
-            QVERIFY(db.deleteDados(model, command));
-        }
-
-        QProcess phone;
-        phone.start(sim, {QStringLiteral("--model"), model});
-        QVERIFY(phone.waitForStarted());
-        QTRY_VERIFY_WITH_TIMEOUT(phone.canReadLine(), 10000);
-        const QString pty = QString::fromUtf8(phone.readLine()).trimmed();
-        QVERIFY2(pty.startsWith(u'/'), qPrintable(pty));
+        ConfigCopy config;
+        QVERIFY(config.ok());
+        const QString path = config.path();
+        if (!keepDemo)
+            QVERIFY(Database(path).deleteDados(model, command));
+        SimProcess phone;
+        const QString started = phone.start(model, QStringLiteral("good"));
+        QVERIFY2(started.isEmpty(), qPrintable(started));
 
         Session session(path);
         session.setModelo(QStringLiteral("IP 6"));
@@ -76,7 +60,7 @@ private slots:
             Master screen({session, exchange, dialogs}, shell);
             auto *send = screen.findChild<QPushButton *>(QStringLiteral("btSend"));
             QVERIFY(!send->isEnabled());
-            connection.connectClicked(pty, QStringLiteral("1"));
+            connection.connectClicked(phone.port(), QStringLiteral("1"));
             QTRY_VERIFY_WITH_TIMEOUT(session.modelo() == model, 20000);
             QTRY_VERIFY_WITH_TIMEOUT(session.connectedAndIdle() && send->isEnabled(), 20000);
 
@@ -107,20 +91,15 @@ private slots:
             QVERIFY2(dialogs.shown.isEmpty(), qPrintable(dialogs.shown.join(u'\n')));
 
             // The console saved for support is judged by the command line as the screen judged it.
+            QTemporaryDir dir;
             const QString saved = dir.filePath(QStringLiteral("console.txt"));
             dialogs.saveNames = {saved};
             screen.saveConsole();
-            QProcess cli;
-            cli.start(QStringLiteral(VEKTO_BIN_DIR "/vekto-cli"),
-                      {QStringLiteral("judge"), QStringLiteral("compare"), QStringLiteral("--model"), model,
-                       QStringLiteral("--command"), command, QStringLiteral("--answer"), saved,
-                       QStringLiteral("--db"), path});
-            QVERIFY(cli.waitForFinished(60000));
-            QVERIFY2(cli.exitCode() == (mark->isHidden() ? 1 : 0), cli.readAllStandardOutput().constData());
+            const CliRun judged = runCli({"judge", "compare", "--model", model, "--command", command, "--answer", saved,
+                                          "--db", path});
+            QVERIFY2(judged.exitCode == (mark->isHidden() ? 1 : 0), qPrintable(judged.describe()));
         }
         port.close();
-        phone.kill();
-        phone.waitForFinished();
     }
 };
 
