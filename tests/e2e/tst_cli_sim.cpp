@@ -30,7 +30,7 @@ private slots:
         QTest::addColumn<QStringList>("args");
         QTest::addColumn<int>("exitCode");
         QTest::addColumn<QStringList>("says"); // each in the output or the errors
-        QTest::addColumn<QString>("last");     // how the last output line starts
+        QTest::addColumn<QString>("last");     // how the last output line starts; empty: not checked
         const QStringList identify{"identify", "--port", "PORT", "--db", "DB"};
         const QString readme = QStringLiteral(VEKTO_SOURCE_DIR "/README.md");
         QTest::newRow("identify IP 7") << "IP 7" << "good" << identify << 0 << QStringList{"Model number: A1660"} << "IP 7";
@@ -70,7 +70,8 @@ private slots:
         QVERIFY2(run.exitCode == exitCode, qPrintable(run.describe()));
         for (const QString &s : std::as_const(says))
             QVERIFY2(run.text.contains(s) || run.errors.contains(s), qPrintable(s + u'\n' + run.describe()));
-        QVERIFY2(run.lines.value(run.lines.size() - 1).startsWith(last), qPrintable(run.describe()));
+        if (!last.isEmpty())
+            QVERIFY2(run.lines.value(run.lines.size() - 1).startsWith(last), qPrintable(run.describe()));
     }
 
     // What send prints, saved to a file, is an answer the judge takes as the screen would.

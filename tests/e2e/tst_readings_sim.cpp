@@ -193,15 +193,15 @@ private slots:
         QTest::addColumn<QString>("model");
         QTest::addColumn<QString>("profile");
         QTest::addColumn<int>("exitCode");
-        QTest::addColumn<QString>("firstRow"); // name and verdict
+        QTest::addColumn<QString>("firstRow"); // the result control and its verdict
         QTest::newRow("chestnut low rail") << QStringList{"chestnut", "--model", "auto"} << "IP 8" << "low-rail" << 1
                                            << "iLDO_V(1) fail";
         QTest::newRow("gps, good") << QStringList{"rf", "--radio", "gps", "--model", "auto"} << "IP 7" << "good" << 0
-                                   << "Gps pass";
+                                   << "lbFundoGps pass";
         QTest::newRow("wifi, dead") << QStringList{"rf", "--radio", "3", "--model", "auto"} << "IP 7" << "dead-radio" << 1
-                                    << "Wifi fail";
+                                    << "lbFundoWifi fail";
         QTest::newRow("bluetooth, silent") << QStringList{"rf", "--radio", "1", "--model", "IP 7"} << "IP 7" << "silent"
-                                           << 1 << "Bluetooth none";
+                                           << 1 << "lbFundoBlue none";
     }
     void liveCommandLine()
     {
