@@ -5,17 +5,16 @@
 
 #include "Board.h"
 #include "ConsoleExchange.h"
-#include "ConsoleTextEdit.h"
 #include "FakeDialogs.h"
 #include "FakeSerialPort.h"
 #include "FakeShell.h"
+#include "ScreenControls.h"
 #include "Session.h"
 #include "SimCatalog.h"
 #include "TestScreen.h"
 
 #include <QFile>
 #include <QHash>
-#include <QLabel>
 #include <QTemporaryDir>
 #include <memory>
 
@@ -79,16 +78,3 @@ struct ScreenBench
         return out;
     }
 };
-
-// A control of a screen by its name; a missing one ends the test run loudly.
-template<typename T = QWidget> T *child(QWidget *screen, const QString &name)
-{
-    T *w = screen->findChild<T *>(name);
-    if (!w)
-        qFatal("no control %s", qPrintable(name));
-    return w;
-}
-
-inline QString text(QWidget *screen, const QString &label) { return child<QLabel>(screen, label)->text(); }
-inline QString rawText(QWidget *screen, const QString &name) { return child<ConsoleTextEdit>(screen, name)->rawText(); }
-inline bool shown(QWidget *screen, const QString &name) { return child(screen, name)->isVisibleTo(screen); }

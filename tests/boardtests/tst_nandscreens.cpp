@@ -23,11 +23,6 @@ namespace {
 
 const QByteArray UidPassed = "NAND UID read Passed\nUID: 0B78BF7A72A8223977A26B3E47B79BBB\n";
 
-void click(QWidget *screen, const QString &button)
-{
-    child<QPushButton>(screen, button)->click();
-}
-
 // A phone that says nothing: no verdict, the wait ends at the tick limit, and the screen still
 // judges the next answer.
 template<typename S> void silentThenAnswered(S &screen, ScreenBench &bench, int mode, int tickLimit)

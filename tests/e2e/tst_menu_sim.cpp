@@ -1,19 +1,25 @@
 // The screens of the main window's menu as a technician uses them, on the simulated phone
 // through the real serial link and the shipped Config.vkt: the I2C automatic run on a board that
 // lost one device behind its front camera flex (it must name the silent device and the connector
-// to check), the IC data dump, the NAND, additional-tests and battery screens; then the command
-// line's live judges on the same phones.
+// to check), the IC data dump, the NAND, additional-tests and battery screens, the command
+// console; then the command line's live judges on the same phones.
 
 #include "AutoComparador.h"
 #include "CliRun.h"
+#include "ConnectionController.h"
 #include "ConsoleTextEdit.h"
 #include "DesktopProgram.h"
 #include "FakeShell.h"
 #include "I2C.h"
+#include "Master.h"
 #include "Screens.h"
+#include "ScreenControls.h"
 #include "SimProcess.h"
 
+#include <QComboBox>
+#include <QFrame>
 #include <QJsonArray>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QtTest>
 
@@ -22,27 +28,12 @@ namespace {
 const QString Connector = QStringLiteral("J4503 - Flex Front Camera and Prox. Sensor Cable");
 const QString Device = QStringLiteral("x39 - Prox ALS Sensor");
 
-QString label(QWidget *screen, const char *name)
-{
-    return screen->findChild<QLabel *>(QString::fromLatin1(name))->text();
-}
-
-QString raw(QWidget *screen, const char *name)
-{
-    return screen->findChild<ConsoleTextEdit *>(QString::fromLatin1(name))->rawText();
-}
-
 // The recorded side shows a good board's answer to the same test (prompt counters aside).
 bool matchesRecording(QWidget *screen, const QString &configPath)
 {
-    return AutoComparador::evaluate(raw(screen, "txtDados"), raw(screen, "txtComparador"),
+    return AutoComparador::evaluate(rawText(screen, "txtDados"), rawText(screen, "txtComparador"),
                                     Database(configPath).maskTexts(), false)
            == AutoComparador::Mark::Shown;
-}
-
-void click(QWidget *screen, const char *name)
-{
-    screen->findChild<QPushButton *>(QString::fromLatin1(name))->click();
 }
 
 } // namespace
@@ -55,7 +46,7 @@ class TestMenuSim : public QObject
     SimPhones m_phones;
 
     // The program connected to `sim`, with the menu a technician gets.
-    static bool connect(DesktopProgram &program, FakeShell &shell, SimProcess *sim)
+    static bool connectWithMenu(DesktopProgram &program, FakeShell &shell, SimProcess *sim)
     {
         Screens::registerAll(*program.inicial, shell);
         program.inicial->resize(1366, 768);
@@ -80,7 +71,7 @@ private slots:
     {
         DesktopProgram program(m_config.path());
         FakeShell shell;
-        QVERIFY(connect(program, shell, m_phones.get(QStringLiteral("IP 7"), QStringLiteral("i2c-missing"))));
+        QVERIFY(connectWithMenu(program, shell, m_phones.get(QStringLiteral("IP 7"), QStringLiteral("i2c-missing"))));
         QCOMPARE(program.session.modelo(), QStringLiteral("IP 7"));
 
         // Menu element 9: the automatic run, each answer handed over into the screen's txtDados.
@@ -133,20 +124,20 @@ private slots:
         {
             DesktopProgram program(m_config.path());
             FakeShell shell;
-            QVERIFY(connect(program, shell, sim));
+            QVERIFY(connectWithMenu(program, shell, sim));
             QCOMPARE(program.session.modelo(), QStringLiteral("IP 7"));
 
             // The NAND screen reads the size once on opening, then each test on its button.
             program.find<QPushButton>("Botoes_7")->click();
             QWidget *nand = program.inicial->screen(QStringLiteral("Nand"));
             QVERIFY(nand);
-            QTRY_COMPARE_WITH_TIMEOUT(label(nand, "lbNand"), QStringLiteral("NAND 128 GB"), 20000);
+            QTRY_COMPARE_WITH_TIMEOUT(text(nand, "lbNand"), QStringLiteral("NAND 128 GB"), 20000);
             for (const char *button : {"btBl_0", "btBl_3"}) {
                 QTRY_COMPARE_WITH_TIMEOUT(program.flag(), QStringLiteral("1"), 20000);
                 click(nand, button);
-                QTRY_COMPARE_WITH_TIMEOUT(label(nand, "lbStatus"), QStringLiteral("COMUNICAÇÃO OK"), 30000);
+                QTRY_COMPARE_WITH_TIMEOUT(text(nand, "lbStatus"), QStringLiteral("COMUNICAÇÃO OK"), 30000);
             }
-            QVERIFY(raw(nand, "txtDados").size() >= 7001);
+            QVERIFY(rawText(nand, "txtDados").size() >= 7001);
 
             // The DRAM test beside the recording of a good IP 7, and the battery screen from there.
             program.find<QPushButton>("Botoes_17")->click();
@@ -154,8 +145,8 @@ private slots:
             QVERIFY(outros);
             QTRY_COMPARE_WITH_TIMEOUT(program.flag(), QStringLiteral("1"), 20000);
             click(outros, "btBl_5");
-            QTRY_COMPARE_WITH_TIMEOUT(label(outros, "lbStatus"), QStringLiteral("COMUNICAÇÃO OK"), 30000);
-            QVERIFY(raw(outros, "txtDados").contains(QStringLiteral("testmemory: Passed")));
+            QTRY_COMPARE_WITH_TIMEOUT(text(outros, "lbStatus"), QStringLiteral("COMUNICAÇÃO OK"), 30000);
+            QVERIFY(rawText(outros, "txtDados").contains(QStringLiteral("testmemory: Passed")));
             QVERIFY(matchesRecording(outros, m_config.path()));
 
             QTRY_COMPARE_WITH_TIMEOUT(program.flag(), QStringLiteral("1"), 20000);
@@ -163,7 +154,7 @@ private slots:
             QWidget *bateria = program.inicial->screen(QStringLiteral("Bateria"));
             QVERIFY(bateria);
             QVERIFY(!program.find<QPushButton>("Botoes_0"));
-            QTRY_VERIFY_WITH_TIMEOUT(raw(bateria, "txtDados").contains(QStringLiteral("StateOfCharge")), 20000);
+            QTRY_VERIFY_WITH_TIMEOUT(rawText(bateria, "txtDados").contains(QStringLiteral("StateOfCharge")), 20000);
             QVERIFY(matchesRecording(bateria, m_config.path()));
             QVERIFY2(program.dialogs.shown.isEmpty(), qPrintable(program.dialogs.shown.join(u'\n')));
 
@@ -180,6 +171,88 @@ private slots:
         QCOMPARE(size.json.value("rows")[0].toObject().value("caption").toString(), QStringLiteral("NAND 128 GB"));
     }
 
+
+    // The command console: a good board matches the shipped demo recording; an answer recorded
+    // here matches the next one; the console saved for support is judged as the screen judged it.
+    void recordAndCompare_data()
+    {
+        QTest::addColumn<QString>("model");
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<bool>("keepDemo");
+        QTest::newRow("IP 7, demo recording") << "IP 7" << "nand --getinfo" << true;
+        QTest::newRow("IP X, demo recording") << "IP X" << "syscfg list" << true;
+        QTest::newRow("IP 8, recorded here") << "IP 8" << "i2c -s 0" << false;
+    }
+
+    void recordAndCompare()
+    {
+        QFETCH(QString, model);
+        QFETCH(QString, command);
+        QFETCH(bool, keepDemo);
+        ConfigCopy config;
+        QVERIFY(config.ok());
+        const QString path = config.path();
+        if (!keepDemo)
+            QVERIFY(Database(path).deleteDados(model, command));
+        SimProcess phone;
+        const QString started = phone.start(model, QStringLiteral("good"));
+        QVERIFY2(started.isEmpty(), qPrintable(started));
+
+        Session session(path);
+        session.setModelo(QStringLiteral("IP 6"));
+        FakeDialogs dialogs;
+        FakeShell shell;
+        QtSerialPortLink port;
+        ConsoleExchange exchange(session, port);
+        ConnectionController connection(session, exchange, port);
+        connection.setModelLookup([&path](const QString &number) { return Database(path).modeloRef(number); });
+        connect(&connection, &ConnectionController::modelRecognised, &session, &Session::setModelo);
+        {
+            // Opened before connecting: the screen waits and may send once the phone is known.
+            Master screen({session, exchange, dialogs}, shell);
+            auto *send = screen.findChild<QPushButton *>(QStringLiteral("btSend"));
+            QVERIFY(!send->isEnabled());
+            connection.connectClicked(phone.port(), QStringLiteral("1"));
+            QTRY_VERIFY_WITH_TIMEOUT(session.modelo() == model, 20000);
+            QTRY_VERIFY_WITH_TIMEOUT(session.connectedAndIdle() && send->isEnabled(), 20000);
+
+            auto *list = screen.findChild<QComboBox *>(QStringLiteral("txtComandos"));
+            auto *console = screen.findChild<ConsoleTextEdit *>(QStringLiteral("txtConsole"));
+            auto *recorded = screen.findChild<ConsoleTextEdit *>(QStringLiteral("txtComparador"));
+            auto *mark = screen.findChild<QFrame *>(QStringLiteral("lbAutoComparador"));
+            list->setEditText(command);
+            screen.send();
+            QVERIFY(screen.waiting());
+            QTRY_VERIFY_WITH_TIMEOUT(!screen.waiting(), 30000);
+            const QString answer = console->rawText();
+            QVERIFY2(answer.startsWith(QStringLiteral("\r\n") + command + QStringLiteral("\r\r\n")), qPrintable(answer));
+            QVERIFY(answer.endsWith(QStringLiteral("] :-) ")));
+            QCOMPARE(!mark->isHidden(), keepDemo);
+
+            if (!keepDemo) {
+                QVERIFY(recorded->rawText().isEmpty());
+                screen.recordAnswer();
+                QCOMPARE(Database(path).dadosRecord(model, command)->dados, answer);
+                // Sent again with the Enter key: the prompt's counters differ, the mark shows.
+                QTest::keyClick(list->lineEdit(), Qt::Key_Return);
+                QVERIFY(screen.waiting());
+                QTRY_VERIFY_WITH_TIMEOUT(!screen.waiting(), 30000);
+                QVERIFY(console->rawText() != answer);
+                QVERIFY(!mark->isHidden());
+            }
+            QVERIFY2(dialogs.shown.isEmpty(), qPrintable(dialogs.shown.join(u'\n')));
+
+            // The console saved for support is judged by the command line as the screen judged it.
+            QTemporaryDir dir;
+            const QString saved = dir.filePath(QStringLiteral("console.txt"));
+            dialogs.saveNames = {saved};
+            screen.saveConsole();
+            const CliRun judged = runCli({"judge", "compare", "--model", model, "--command", command, "--answer", saved,
+                                          "--db", path});
+            QVERIFY2(judged.exitCode == (mark->isHidden() ? 1 : 0), qPrintable(judged.describe()));
+        }
+        port.close();
+    }
 };
 
 QTEST_MAIN(TestMenuSim)
