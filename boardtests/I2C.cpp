@@ -3,10 +3,13 @@
 #include "ConsoleExchange.h"
 #include "Database.h"
 #include "Dialogs.h"
+#include "I2CLearning.h"
+#include "RefOrigins.h"
 #include "Session.h"
 #include "Shell.h"
 #include "ui_I2C.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QStyle>
@@ -52,8 +55,12 @@ I2C::I2C(const ScreenContext &context, Shell &shell, QWidget *parent)
     for (int bus = 0; bus < I2CEngine::BusCount; ++bus)
         connect(busButton(bus), &QPushButton::clicked, this, [this, bus] { btI2C(bus); });
     connect(ui->btAutoTeste, &QPushButton::clicked, this, &I2C::btAutoTeste);
+    connect(ui->btAprenderI2C, &QPushButton::clicked, this, &I2C::btAprenderI2C);
     connect(ui->btPdf, &QPushButton::clicked, this, &I2C::btPdf);
     connect(&session(), &Session::modeloChanged, this, [this] {
+        // Answers of the board of another model are nothing to learn from for this one.
+        m_runAnswers.clear();
+        ui->btAprenderI2C->setEnabled(false);
         layoutBuses();
         retranslate();
     });
@@ -78,6 +85,7 @@ void I2C::retranslate()
     setWindowTitle(Traduz(QStringLiteral("Testes de Leitura I2C")));
     ui->lbDispositivo->setText(session().modelo());
     ui->btAutoTeste->setText(Traduz(m_cancelCaption ? QStringLiteral("Cancelar") : QStringLiteral("Auto Teste")));
+    ui->btAprenderI2C->setText(Traduz(QStringLiteral("REF_APRENDER_I2C")));
     ui->btPdf->setText(Traduz(QStringLiteral("Visualizar Diagrama PDF")));
     ui->lbLeitura->setText(Traduz(QStringLiteral("Leitura do dispositivo conectado:")));
     ui->lbTeste->setText(Traduz(QStringLiteral("Resultado do teste:")));
@@ -176,6 +184,8 @@ void I2C::judge()
 
     const I2CTexts texts{Traduz(QStringLiteral("COMUNICAÇÃO OK")), Traduz(QStringLiteral("COMUNICAÇÃO OFF")),
                          Traduz(QStringLiteral("Referência inválida"))};
+    if (m_autoRunning)
+        m_runAnswers.insert(bus, ui->txtDados->rawText());
     const I2CBusResult result = I2CEngine::judge(bus, ui->txtDados->rawText(), entries, texts);
     QStringList lines;
     for (int i = 0; i < result.devices.size(); ++i) {
@@ -209,6 +219,9 @@ void I2C::btAutoTeste()
     ui->txtDadosI2C->clear();
     ui->FrameResultadoOK->setVisible(false);
     if (m_cancelCaption) {
+        // A cancelled run is not a whole board: nothing to learn from (the button waits for a
+        // run that finishes).
+        m_runAnswers.clear();
         m_timerAuto.stop();
         stopBarra();
         m_cancelCaption = false;
@@ -220,6 +233,8 @@ void I2C::btAutoTeste()
         return;
     }
     ui->ListView->clear();
+    m_runAnswers.clear();
+    ui->btAprenderI2C->setEnabled(false);
     m_run.start();
     m_autoRunning = true;
     ui->FrameAutoI2C->setVisible(true);
@@ -247,6 +262,7 @@ void I2C::onTimerAuto()
 void I2C::finishAuto()
 {
     m_autoRunning = false;
+    ui->btAprenderI2C->setEnabled(!m_runAnswers.isEmpty());
     m_timerAuto.stop();
     stopBarra();
     if (ui->txtDadosI2C->toPlainText().isEmpty())
@@ -293,4 +309,38 @@ void I2C::btPdf()
         return;
     }
     m_shell.open(path);
+}
+
+void I2C::btAprenderI2C()
+{
+    const QString title = Traduz(QStringLiteral("REF_APRENDER_I2C"));
+    if (m_autoRunning || m_runAnswers.isEmpty())
+        return;
+    const QString model = session().modelo();
+    Database db(session().configPath());
+    const I2CLearning::Plan plan = I2CLearning::plan(model, db.i2cEntries(model), m_runAnswers);
+    if (!db.lastError().isEmpty()) {
+        dialogs().critical(this, QStringLiteral("Config.vkt"), db.lastError());
+        return;
+    }
+    if (!plan.changes()) {
+        dialogs().information(this, title, Traduz(QStringLiteral("REF_I2C_SEM_MUDANCA")));
+        return;
+    }
+    const auto list = [](const QStringList &entries) {
+        return entries.isEmpty() ? QStringLiteral("-") : entries.join(QStringLiteral("\n"));
+    };
+    const QString question = Traduz(QStringLiteral("REF_PERGUNTA_I2C")).arg(model) + QStringLiteral("\n\n")
+                             + Traduz(QStringLiteral("REF_I2C_ENTRAM")) + u'\n' + list(plan.added)
+                             + QStringLiteral("\n\n") + Traduz(QStringLiteral("REF_I2C_SAEM")) + u'\n'
+                             + list(plan.removed);
+    if (!dialogs().question(this, title, question))
+        return;
+    QString error;
+    if (!I2CLearning::learn(db, plan, RefOrigins::stamp(QDateTime::currentDateTimeUtc()), session().versao(), &error)) {
+        dialogs().critical(this, QStringLiteral("Config.vkt"), error);
+        return;
+    }
+    m_runAnswers.clear();
+    ui->btAprenderI2C->setEnabled(false);
 }

@@ -7,6 +7,7 @@
 #include "I2CEngine.h"
 #include "TestScreen.h"
 
+#include <QMap>
 #include <QTimer>
 #include <memory>
 
@@ -39,6 +40,9 @@ public:
     void btI2C(int bus);
     // btAutoTeste: start the automatic run, or cancel it while it runs.
     void btAutoTeste();
+    // btAprenderI2C: after a whole automatic run on a good board, the devices that answered
+    // become the model's list, once the technician agreed to what is added and removed.
+    void btAprenderI2C();
     // btPdf: open the model's schematic extract.
     void btPdf();
     // Lays out the bus buttons for the selected model.
@@ -75,6 +79,7 @@ private:
     quint8 m_currentBus = 0;
     I2CAutoRun m_run;
     bool m_autoRunning = false;
+    QMap<int, QString> m_runAnswers; // the answer of every bus the running automatic run probed
     bool m_cancelCaption = false; // btAutoTeste reads "Cancelar": the next click cancels
     QList<QLabel *> m_ok;
     QList<QLabel *> m_no;

@@ -11,5 +11,6 @@ int send(const QStringList &args);
 int identify(const QStringList &args);
 int importData(const QStringList &args);
 int updateCheck(const QStringList &args);
+int refs(const QStringList &args); // learn, undo, show, export, import
 
 } // namespace Cli

@@ -25,6 +25,7 @@ int main(int argc, char **argv)
         {QStringLiteral("identify"), Cli::identify},
         {QStringLiteral("import"), Cli::importData},
         {QStringLiteral("update-check"), Cli::updateCheck},
+        {QStringLiteral("refs"), Cli::refs},
         {QStringLiteral("judge"), [](const QStringList &a) {
              QTextStream out(stdout), err(stderr);
              if (a.value(0) == QLatin1String("compare"))
@@ -59,7 +60,7 @@ int main(int argc, char **argv)
     if (command == commands.end()) {
         Cli::err(QStringLiteral("usage: vekto-cli ports | send --port P TEXT | identify --port P [--db FILE]"
                                " | judge ENGINE ... | run ENGINE ... | import --from FILE [--db FILE]"
-                               " | update-check [--url URL]"));
+                               " | update-check [--url URL] | refs learn|undo|show|export|import ..."));
         return 2;
     }
     return command->second(args.mid(1));

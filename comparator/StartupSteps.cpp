@@ -64,7 +64,8 @@ std::optional<int> migrateConfig(const QString &configPath, Dialogs &dialogs)
 bool upgradeConfig(const QString &configPath, QString *error)
 {
     Database db(configPath);
-    const bool ok = db.addMissingToolsColumns();
+    // Tables added after the first release (the reference origins) arrive empty.
+    const bool ok = db.addMissingToolsColumns() && db.addMissingTables();
     if (!ok && error)
         *error = db.lastError();
     return ok;

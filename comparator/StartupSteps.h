@@ -20,7 +20,8 @@ namespace StartupSteps {
 // Returns the exit code when the start must stop (the file could not be carried over).
 std::optional<int> migrateConfig(const QString &configPath, Dialogs &dialogs);
 
-// Adds the Tools columns a file from an older release lacks; false when the file refused.
+// Adds the Tools columns and the tables a file from an older release lacks; false when the
+// file refused.
 bool upgradeConfig(const QString &configPath, QString *error = nullptr);
 
 // The update check: false when the program must end (a mandatory update, or the technician

@@ -104,3 +104,44 @@ CREATE TABLE Tools (
     UrlSuporte2 TEXT,
     Termos      TEXT
 );
+
+-- Where each reference came from: per model and rail net (Kind "rail", Item = Master.Malha),
+-- per model and I2C entry ("i2c", Item = the i text) and per model and recorded command
+-- ("dados", Item = Dados.Comando). Source is "demo" (shipped), "learned" (median of recorded
+-- boards: how many, their serial numbers where known) or "imported" (File and FileDate of the
+-- reference file). At is when the value was made (UTC, ISO 8601; empty for demo data) and
+-- Version the program that made it. Value is the reference the origin vouches for: a row whose
+-- reference no longer equals it was changed by hand since. Files made before this table get it
+-- empty at start-up (Database::addMissingTables): their references have no known origin.
+CREATE TABLE RefOrigin (
+    Kind     TEXT COLLATE NOCASE,
+    Model    TEXT COLLATE NOCASE,
+    Item     TEXT COLLATE NOCASE,
+    Value    TEXT,
+    Source   TEXT,
+    Boards   INTEGER,
+    Serials  TEXT,
+    At       TEXT,
+    Version  TEXT,
+    File     TEXT,
+    FileDate TEXT
+);
+CREATE INDEX RefOrigin_Kind_Model_Item ON RefOrigin (Kind, Model, Item);
+
+-- The rail references and origins of one model as they were before its last learning, so the
+-- learning can be undone exactly. HadOrigin 0: the rail had no origin row.
+CREATE TABLE RefUndo (
+    Model     TEXT COLLATE NOCASE,
+    Malha     TEXT COLLATE NOCASE,
+    refv      TEXT,
+    HadOrigin INTEGER,
+    Value     TEXT,
+    Source    TEXT,
+    Boards    INTEGER,
+    Serials   TEXT,
+    At        TEXT,
+    Version   TEXT,
+    File      TEXT,
+    FileDate  TEXT
+);
+CREATE INDEX RefUndo_Model ON RefUndo (Model);

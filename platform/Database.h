@@ -125,6 +125,27 @@ public:
     std::optional<QString> toolsText(const QString &column);
     bool setToolsText(const QString &column, const QString &value);
 
+    // --- Reference origins, the undo of a learning, whole lists for the reference files ----
+    // Creates the tables of the schema a file made before them lacks (with their indexes),
+    // empty; a file that has them all is not written.
+    bool addMissingTables();
+    QList<RefOrigin> refOrigins(const QString &kind, const QString &model); // by Item
+    std::optional<RefOrigin> refOrigin(const QString &kind, const QString &model, const QString &item);
+    // Replaces the (Kind, Model, Item) row in place, or adds it.
+    bool setRefOrigin(const RefOrigin &origin);
+    bool deleteRefOrigin(const QString &kind, const QString &model, const QString &item);
+    bool setRefv(const MasterKey &row, const QString &refv);
+    bool addMasterRow(const MasterRow &row);
+    QList<RefUndoRow> refUndo(const QString &model);
+    bool setRefUndo(const QString &model, const QList<RefUndoRow> &rows); // replaces the model's
+    QStringList i2cEntries(const QString &aparelho);                      // in stored order
+    bool replaceI2cEntries(const QString &aparelho, const QStringList &entries);
+    QList<DadosRecord> dadosOf(const QString &aparelho);                   // by Comando
+    // The model names the file knows (Modelos.Ref), in name order.
+    QStringList knownModels();
+    // Models that have rail references (Master), in name order.
+    QStringList railModels();
+
     // Runs `work` as one transaction: either all of its writes land or none. Writes made through
     // this object inside `work` join it instead of committing on their own.
     bool transaction(const std::function<bool()> &work) { return inTransaction(work); }

@@ -95,3 +95,29 @@ struct RfRow
     QString referencia;
     bool operator==(const RfRow &) const = default;
 };
+
+// Where one reference came from (table RefOrigin). `value` is the reference it vouches for.
+struct RefOrigin
+{
+    QString kind;   // "rail", "i2c", "dados"
+    QString model;
+    QString item;   // Master.Malha, the i text or Dados.Comando
+    QString value;
+    QString source; // "demo", "learned", "imported"
+    int boards = 0;
+    QString serials;
+    QString at;     // UTC, ISO 8601; empty for demo data
+    QString version;
+    QString file;
+    QString fileDate;
+    bool operator==(const RefOrigin &) const = default;
+};
+
+// One rail as it stood before a learning (table RefUndo).
+struct RefUndoRow
+{
+    QString malha;
+    QString refv;
+    std::optional<RefOrigin> origin;
+    bool operator==(const RefUndoRow &) const = default;
+};

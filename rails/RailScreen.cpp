@@ -3,10 +3,14 @@
 #include "ConsoleExchange.h"
 #include "Database.h"
 #include "Dialogs.h"
+#include "RailLearning.h"
+#include "RailOriginModel.h"
 #include "RailVerdictModel.h"
+#include "RefOrigins.h"
 #include "Session.h"
 #include "ui_RailScreen.h"
 
+#include <QDateTime>
 #include <QHeaderView>
 #include <QSqlQueryModel>
 #include <QSqlRecord>
@@ -41,7 +45,9 @@ RailScreen::RailScreen(const ScreenContext &context, const RailScreenKind &kind,
     m_data1->setObjectName(QStringLiteral("Data1"));
     auto *coloured = new RailVerdictModel(this);
     coloured->setSourceModel(m_data1);
-    ui->grid->setModel(coloured);
+    m_origins = new RailOriginModel(this);
+    m_origins->setSourceModel(coloured);
+    ui->grid->setModel(m_origins);
     ui->grid->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     ui->Barra->setRange(0, BarraSteps);
 
@@ -73,6 +79,8 @@ RailScreen::RailScreen(const ScreenContext &context, const RailScreenKind &kind,
         connect(gravarButtons[slot - 1], &QPushButton::clicked, this, [this, slot] { gravar(slot); });
         connect(excluirButtons[slot - 1], &QPushButton::clicked, this, [this, slot] { excluir(slot); });
     }
+    connect(ui->btAprender, &QPushButton::clicked, this, &RailScreen::aprender);
+    connect(ui->btDesfazer, &QPushButton::clicked, this, &RailScreen::desfazer);
     for (QRadioButton *option : {ui->OpMalha, ui->OpIc, ui->OpPorc})
         connect(option, &QRadioButton::toggled, this, [this](bool on) {
             if (on)
@@ -139,6 +147,8 @@ void RailScreen::retranslate()
     ui->Botao1->setText(Traduz(QStringLiteral("VCore")));
     ui->Botao2->setText(Traduz(QStringLiteral("Buck Teste")));
     ui->Botao3->setText(QStringLiteral("NAND"));
+    ui->btAprender->setText(Traduz(QStringLiteral("REF_APRENDER")));
+    ui->btDesfazer->setText(Traduz(QStringLiteral("REF_DESFAZER")));
 
     const QSqlRecord record = m_data1->record();
     for (const auto &[column, key] : GridColumns) {
@@ -150,6 +160,7 @@ void RailScreen::retranslate()
             text += u' ' + column.mid(1);
         m_data1->setHeaderData(index, Qt::Horizontal, text);
     }
+    showOrigins();
 }
 
 void RailScreen::setScreenOpener(std::function<QWidget *(const QString &)> opener,
@@ -438,4 +449,71 @@ QString RailScreen::slotName(int slot) const
 void RailScreen::storeFailed()
 {
     dialogs().critical(this, QStringLiteral("Config.vkt"), m_db->lastError());
+}
+
+void RailScreen::showOrigins()
+{
+    const QString model = session().modelo();
+    QHash<QString, RefOrigin> origins;
+    for (const RefOrigin &origin : m_db->refOrigins(RefOrigins::Rail, model))
+        origins.insert(origin.item.toUpper(), origin);
+    const QSqlRecord columns = m_data1->record();
+    const int malhaColumn = columns.indexOf(QStringLiteral("Malha"));
+    const int refvColumn = columns.indexOf(QStringLiteral("refv"));
+    QHash<QString, RailOriginModel::RowOrigin> shown;
+    for (int row = 0; row < m_data1->rowCount(); ++row) {
+        const QSqlRecord record = m_data1->record(row);
+        const QString malha = record.value(malhaColumn).toString();
+        const QString refv = record.value(refvColumn).toString();
+        const auto it = origins.constFind(malha.toUpper());
+        const std::optional<RefOrigin> origin = it == origins.constEnd() ? std::nullopt : std::optional(*it);
+        shown.insert(malha, {RefOrigins::describe(origin, refv, session().idioma()),
+                             RefOrigins::state(origin, refv) == RefOrigins::State::Demo});
+    }
+    m_origins->setOrigins(malhaColumn, refvColumn, shown);
+    const bool demo = m_origins->anyDemo();
+    ui->lbOrigem->setText(demo ? Traduz(QStringLiteral("REF_NOTA_DEMO")) : QString());
+    ui->lbOrigem->setVisible(demo);
+    ui->btDesfazer->setEnabled(RailLearning::canUndo(*m_db, model));
+}
+
+void RailScreen::aprender()
+{
+    const QString title = Traduz(QStringLiteral("REF_APRENDER"));
+    if (m_reading) {
+        dialogs().information(this, title, Traduz(QStringLiteral("REF_LEITURA_EM_CURSO")));
+        return;
+    }
+    const QString model = session().modelo();
+    const RailLearning::Plan plan = RailLearning::plan(model, m_db->masterRows(m_shownFilter));
+    if (plan.learnable() == 0) {
+        dialogs().information(this, title, Traduz(QStringLiteral("REF_SEM_GRAVACOES")));
+        return;
+    }
+    if (!dialogs().question(this, title,
+                            Traduz(QStringLiteral("REF_PERGUNTA_APRENDER")).arg(model).arg(plan.learnable())))
+        return;
+    const RailLearning::Context context{RefOrigins::stamp(QDateTime::currentDateTimeUtc()), session().versao(), {}};
+    if (!RailLearning::learn(*m_db, plan, context))
+        storeFailed();
+    MontaConsultaGrade();
+}
+
+void RailScreen::desfazer()
+{
+    const QString title = Traduz(QStringLiteral("REF_DESFAZER"));
+    if (m_reading) {
+        dialogs().information(this, title, Traduz(QStringLiteral("REF_LEITURA_EM_CURSO")));
+        return;
+    }
+    const QString model = session().modelo();
+    if (!RailLearning::canUndo(*m_db, model)) {
+        dialogs().information(this, title, Traduz(QStringLiteral("REF_NADA_A_DESFAZER")));
+        return;
+    }
+    if (!dialogs().question(this, title, Traduz(QStringLiteral("REF_PERGUNTA_DESFAZER")).arg(model)))
+        return;
+    if (!RailLearning::undo(*m_db, model))
+        storeFailed();
+    MontaConsultaGrade();
 }

@@ -13,6 +13,7 @@
 
 class Database;
 class QSqlQueryModel;
+class RailOriginModel;
 
 namespace Ui { class RailScreen; }
 
@@ -62,6 +63,10 @@ public:
     // btGravar(slot) and btExcluir(slot), slot 1 to 3.
     void gravar(int slot);
     void excluir(int slot);
+    // btAprender: the shown rails' references become the median of their recorded slots.
+    // btDesfazer: the model's references and origins as they were before its last learning.
+    void aprender();
+    void desfazer();
 
     void onTimer1();
     void onTimer2();
@@ -94,11 +99,13 @@ private:
     QString slotName(int slot) const;
     void keepReadings();
     void restoreReadings();
+    void showOrigins();
 
     std::unique_ptr<Ui::RailScreen> ui;
     RailScreenKind m_kind;
     std::unique_ptr<Database> m_db; // one connection for the bound grid and the writes
     QSqlQueryModel *m_data1 = nullptr;
+    RailOriginModel *m_origins = nullptr;
     MasterFilter m_shownFilter; // the rows the grid shows: what Gravar and Excluir act on
     QList<RailReading> m_keptReadings; // the readings wiped at the start of the running reading
     QTimer m_timer1;

@@ -23,7 +23,7 @@ private slots:
         const QStringList messages = Texts::messageKeys();
         QStringList missing;
         int seen = 0;
-        for (const char *folder : {"core", "comparator", "rails", "chips", "boardtests", "platform", "cli", "app"}) {
+        for (const char *folder : {"core", "comparator", "refs", "rails", "chips", "boardtests", "platform", "cli", "app"}) {
             QDirIterator it(source.filePath(QString::fromLatin1(folder)), {QStringLiteral("*.cpp"), QStringLiteral("*.h")},
                             QDir::Files, QDirIterator::Subdirectories);
             while (it.hasNext()) {

@@ -283,7 +283,7 @@ private slots:
         QSqlQuery indexes(QSqlDatabase::database(raw.name, false));
         QVERIFY(indexes.exec(QStringLiteral("SELECT count(*) FROM sqlite_master WHERE type = 'index'")));
         QVERIFY(indexes.next());
-        QCOMPARE(indexes.value(0).toInt(), 8);
+        QCOMPARE(indexes.value(0).toInt(), 10);
         indexes.finish();
 
         // A file that is up to date is not written again.
