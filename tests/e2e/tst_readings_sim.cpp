@@ -2,7 +2,8 @@
 // link and the exchange with its timers, the hand-over and what the screen judged; then the
 // command line live on the same phones. One low-rail "IP 8" board serves Tigris, Tristar and
 // Chestnut (each sees exactly one value out of its band); the VCore rails read into Config.vkt
-// and are judged as the grid judges; the radios of a good and a dead-radio board.
+// and are judged as the grid judges, and references learned from them catch the low rail; the
+// radios of a good and a dead-radio board.
 #include "Acorn.h"
 #include "Chestnut.h"
 #include "CliRun.h"
@@ -86,6 +87,14 @@ QStringList railFailures(SimLink &link, const QString &config, const QString &mo
             failed << row.malha;
     }
     return failed;
+}
+
+QJsonObject rowNamed(const QJsonArray &rows, const QString &name)
+{
+    for (const QJsonValue &row : rows)
+        if (row.toObject().value(QStringLiteral("name")).toString() == name)
+            return row.toObject();
+    return {};
 }
 
 } // namespace
@@ -220,6 +229,58 @@ private slots:
         QCOMPARE(first.value("name").toString() + u' ' + first.value("verdict").toString(), firstRow);
         if (firstRow.endsWith(QLatin1String("none")))
             QVERIFY(run.json.value("status").isNull());
+    }
+
+    // References learned from the shop's own boards: three good readings recorded in the VCore
+    // screen,
+    // `vekto-cli refs learn`, then the low-rail board judged live against what was learned.
+    void learnedReferenceCatchesTheLowRail()
+    {
+        ConfigCopy config;
+        QVERIFY(config.ok());
+        const QString model = QStringLiteral("IP 7");
+        {
+            // The simulated good boards are alike: one phone stands in for the three.
+            SimProcess *good = m_phones.get(model, QStringLiteral("good"));
+            QVERIFY(good);
+            SimLink link(config.path(), model);
+            QVERIFY(link.open(good->port()));
+            VCores screen(link.context);
+            for (int slot = 1; slot <= 3; ++slot) {
+                screen.ExecutaLeitura();
+                QTRY_VERIFY_WITH_TIMEOUT(!screen.readingUnderWay(), 40000);
+                screen.gravar(slot);
+            }
+            QVERIFY2(!link.dialogs.shown.join(u'\n').contains(QLatin1String("critical")), qPrintable(link.dialogs.shown.join(u'\n')));
+            link.port.close();
+        }
+
+        const QStringList db{QStringLiteral("--db"), config.path(), QStringLiteral("--json")};
+        const CliRun learned = runCli(QStringList{QStringLiteral("refs"), QStringLiteral("learn"), QStringLiteral("--model"), model} + db);
+        QVERIFY2(learned.exitCode == 0, qPrintable(learned.describe()));
+        const QJsonObject cpu = rowNamed(learned.json.value(QStringLiteral("rails")).toArray(), QStringLiteral("PP_CPU"));
+        QCOMPARE(cpu.value(QStringLiteral("readings")).toInt(), 3);
+        QCOMPARE(cpu.value(QStringLiteral("outcome")).toString(), QStringLiteral("learned"));
+
+        const CliRun shown = runCli(QStringList{QStringLiteral("refs"), QStringLiteral("show"), QStringLiteral("--model"), model} + db);
+        QVERIFY2(shown.exitCode == 0, qPrintable(shown.describe()));
+        const QJsonObject origin = rowNamed(shown.json.value(QStringLiteral("rails")).toArray(), QStringLiteral("PP_CPU"))
+                                       .value(QStringLiteral("origin")).toObject();
+        QCOMPARE(origin.value(QStringLiteral("state")).toString(), QStringLiteral("learned"));
+        QCOMPARE(origin.value(QStringLiteral("boards")).toInt(), 3);
+
+        SimProcess *low = m_phones.get(model, QStringLiteral("low-rail"));
+        QVERIFY(low);
+        const CliRun judged = runCli(QStringList{QStringLiteral("run"), QStringLiteral("vcore"), QStringLiteral("--port"),
+                                                 low->port(), QStringLiteral("--model"), model} + db);
+        QVERIFY2(judged.exitCode == 1, qPrintable(judged.describe()));
+        const QJsonArray rows = judged.json.value(QStringLiteral("rows")).toArray();
+        const QJsonObject lowRail = rowNamed(rows, QStringLiteral("PP_CPU"));
+        QCOMPARE(lowRail.value(QStringLiteral("verdict")).toString(), QStringLiteral("fail"));
+        const double deviation =
+            lowRail.value(QStringLiteral("deviation")).toString().remove(QStringLiteral(" %")).replace(u',', u'.').toDouble();
+        QVERIFY2(deviation < -10, qPrintable(lowRail.value(QStringLiteral("deviation")).toString()));
+        QCOMPARE(rowNamed(rows, QStringLiteral("I_PP_CPU")).value(QStringLiteral("verdict")).toString(), QStringLiteral("pass"));
     }
 };
 
