@@ -8,12 +8,12 @@
 #include "Database.h"
 #include "DemoSeeds.h"
 #include "SimCatalog.h"
+#include "CliRun.h"
 #include "platform/SqlFixture.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
@@ -22,24 +22,9 @@ namespace {
 
 const QString Shipped = QStringLiteral(VEKTO_BIN_DIR "/Config.vkt");
 
-struct Run
+CliRun cli(const QStringList &args)
 {
-    int exitCode = -1;
-    QString out;
-    QString err;
-};
-
-Run cli(const QStringList &args)
-{
-    QProcess p;
-    p.start(QStringLiteral(VEKTO_BIN_DIR "/vekto-cli"), QStringList{QStringLiteral("judge")} + args);
-    Run r;
-    if (!p.waitForFinished(60000))
-        return r;
-    r.exitCode = p.exitCode();
-    r.out = QString::fromUtf8(p.readAllStandardOutput());
-    r.err = QString::fromUtf8(p.readAllStandardError());
-    return r;
+    return runCli(QStringList{QStringLiteral("judge")} + args);
 }
 
 // The console text the tool shows after sending `command` to a fresh simulated board (an IP 7
@@ -141,11 +126,11 @@ private slots:
         const QString file = answerFile(answer);
         const QStringList args{QStringLiteral("compare"), QStringLiteral("--model"), model, QStringLiteral("--command"), command,
                                QStringLiteral("--answer"), file};
-        const Run r = cli(args + QStringList{QStringLiteral("--db"), Shipped, QStringLiteral("--json")});
+        const CliRun r = cli(args + QStringList{QStringLiteral("--db"), Shipped, QStringLiteral("--json")});
         // Only a shown mark is a success: a hidden one, or nothing to compare with, is not.
         const int exitCode = verdict == QLatin1String("pass") ? 0 : 1;
-        QVERIFY2(r.exitCode == exitCode, qPrintable(QString::number(r.exitCode) + r.err));
-        const QJsonObject o = QJsonDocument::fromJson(r.out.toUtf8()).object();
+        QVERIFY2(r.exitCode == exitCode, qPrintable(QString::number(r.exitCode) + r.errors));
+        const QJsonObject o = QJsonDocument::fromJson(r.text.toUtf8()).object();
         QCOMPARE(o.value(QStringLiteral("engine")).toString(), QStringLiteral("compare"));
         QCOMPARE(o.value(QStringLiteral("model")).toString(), model);
         QTEST(o.value(QStringLiteral("status")).toString(), "status");
@@ -158,13 +143,13 @@ private slots:
         QVERIFY(row.value(QStringLiteral("deviation")).isNull());
         QCOMPARE(row.value(QStringLiteral("verdict")).toString(), verdict);
         // The plain form says the same on one line.
-        const Run plain = cli(args);
+        const CliRun plain = cli(args);
         QCOMPARE(plain.exitCode, exitCode);
-        const QStringList lines = plain.out.split(u'\n');
+        const QStringList lines = plain.text.split(u'\n');
         QCOMPARE(lines.value(0), QStringLiteral("compare ") + model);
         const QStringList words = lines.value(1).split(u' ', Qt::SkipEmptyParts);
         QVERIFY2(words.first() == QLatin1String("lbAutoComparador") && words.last() == verdict && lines.value(1).contains(caption),
-                 qPrintable(plain.out));
+                 qPrintable(plain.text));
     }
 
     void rails_data()
@@ -198,10 +183,10 @@ private slots:
         QFETCH(QString, command);
         QFETCH(int, failing);
         const QString file = answerFile(command.isEmpty() ? QString() : boardAnswer(model, Profile(profile), command));
-        const Run r = cli({engine, QStringLiteral("--model"), model, QStringLiteral("--answer"), file, QStringLiteral("--db"),
+        const CliRun r = cli({engine, QStringLiteral("--model"), model, QStringLiteral("--answer"), file, QStringLiteral("--db"),
                            Shipped, QStringLiteral("--json")});
         QTEST(r.exitCode, "exitCode");
-        const QJsonObject report = QJsonDocument::fromJson(r.out.toUtf8()).object();
+        const QJsonObject report = QJsonDocument::fromJson(r.text.toUtf8()).object();
         QCOMPARE(report.value(QStringLiteral("engine")).toString(), engine);
         QCOMPARE(report.value(QStringLiteral("model")).toString(), model);
         QTEST(report.value(QStringLiteral("status")).toString(), "status");
@@ -253,11 +238,11 @@ private slots:
             args[at] = incomplete;
             message = QStringLiteral("cannot read the database %1: %2").arg(incomplete, message);
         }
-        const Run r = cli(args);
+        const CliRun r = cli(args);
         QCOMPARE(r.exitCode, 2);
-        QVERIFY2(!r.err.isEmpty() && r.err.contains(message) && !r.err.contains(QLatin1String("Unable to fetch row")),
-                 qPrintable(r.err));
-        QVERIFY(r.out.isEmpty());
+        QVERIFY2(!r.errors.isEmpty() && r.errors.contains(message) && !r.errors.contains(QLatin1String("Unable to fetch row")),
+                 qPrintable(r.errors));
+        QVERIFY(r.text.isEmpty());
     }
 };
 
