@@ -2,7 +2,7 @@
 """Writes data/seed/30_master_demo.sql from the simulator's rail list (sim/answers/rails.tsv).
 
 The demo references are the simulator's nominal values, so a good simulated board reads every
-rail within a few per cent. tests/rails/tst_railseed.cpp fails when the two drift apart; run
+rail within a few per cent. tests/rails/tst_railengine.cpp fails when the two drift apart; run
 this script again after changing rails.tsv:  python3 data/make_master_demo.py
 """
 import csv, os

@@ -10,28 +10,29 @@
 #include "FakeSerialPort.h"
 #include "FakeShell.h"
 #include "Session.h"
+#include "platform/SqlFixture.h"
 
-#include <QFile>
 #include <QFileInfo>
-#include <QSqlError>
-#include <QSqlQuery>
-#include <QStringList>
 #include <QTemporaryDir>
 #include <unistd.h>
 
 
 namespace fixture {
 
+// A database file with the schema and no rows.
+inline bool makeDatabaseAt(const QString &path)
+{
+    QString error;
+    if (!DatabaseBuilder::build(QStringLiteral(VEKTO_SOURCE_DIR "/data/schema.sql"), {}, path, &error))
+        qWarning("%s", qPrintable(error));
+    return error.isEmpty();
+}
+
 // Config.vkt with the schema and no rows, in `dir`; empty on failure.
 inline QString makeDatabase(const QTemporaryDir &dir)
 {
     const QString path = dir.filePath(QStringLiteral("Config.vkt"));
-    QString error;
-    if (!DatabaseBuilder::build(QStringLiteral(VEKTO_SOURCE_DIR "/data/schema.sql"), {}, path, &error)) {
-        qWarning("%s", qPrintable(error));
-        return {};
-    }
-    return path;
+    return makeDatabaseAt(path) ? path : QString();
 }
 
 // One screen's surroundings on a fresh file: session, scripted line, exchange and boxes.
@@ -70,26 +71,13 @@ inline QByteArray deviceBytes(const QString &command, const QStringList &lines,
 inline bool makeUnwritable(const QString &path)
 {
     if (geteuid() == 0) {
-        const QString name = QStringLiteral("unwritable");
-        bool ok = true;
-        {
-            QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
-            db.setDatabaseName(path);
-            ok = db.open();
-            for (const char *table : {"Dados", "Comandos", "M"}) {
-                for (const char *op : {"INSERT", "UPDATE", "DELETE"}) {
-                    QSqlQuery q(db);
-                    ok = ok && q.exec(QStringLiteral("CREATE TRIGGER ro_%1_%2 BEFORE %2 ON %1 "
-                                                     "BEGIN SELECT RAISE(ABORT, 'attempt to write a readonly "
-                                                     "database'); END")
-                                          .arg(QLatin1String(table), QLatin1String(op)));
-                }
-            }
-            db.close();
-        }
-        QSqlDatabase::removeDatabase(name);
-        if (!ok)
-            return false;
+        sqlfixture::Raw raw(path);
+        for (const char *table : {"Dados", "Comandos", "M"})
+            for (const char *op : {"INSERT", "UPDATE", "DELETE"})
+                if (!raw.exec(QStringLiteral("CREATE TRIGGER ro_%1_%2 BEFORE %2 ON %1 BEGIN SELECT RAISE(ABORT, "
+                                             "'attempt to write a readonly database'); END")
+                                  .arg(QLatin1String(table), QLatin1String(op))))
+                    return false;
     }
     return QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
 }

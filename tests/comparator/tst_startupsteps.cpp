@@ -1,10 +1,13 @@
 // The start-up services as the technician meets them: the import question over every syncbd
 // state, the update check's boxes and pages, the disclaimer, the carry-over of an Access
 // Config.vkt, and the about screen's import and links. Boxes are scripted, pages recorded.
+// Then the update check itself: what an answer of the version page means, and how the real HTTP
+// client behaves against a server on the loopback address that answers well, badly, hugely or never.
 
 #include "AccessMigration.h"
 #include "ComparatorFixture.h"
 #include "Http.h"
+#include "LoopbackHttpServer.h"
 #include "LinkMenu.h"
 #include "Sobre.h"
 #include "StartupSteps.h"
@@ -13,33 +16,23 @@
 
 #include <QAction>
 #include <QLabel>
-#include <QCryptographicHash>
 #include <QtTest>
+
+using sqlfixture::digest;
+using UpdateCheck::Kind;
+Q_DECLARE_METATYPE(UpdateCheck::Kind)
 
 namespace {
 
-QByteArray digest(const QString &path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? QCryptographicHash::hash(f.readAll(), QCryptographicHash::Sha256) : QByteArray();
-}
-
 bool exec(const QString &path, const QString &sql, const QVariantList &values = {})
 {
-    Database db(path);
-    QSqlQuery q(db.connection());
-    if (!q.prepare(sql))
-        return false;
-    for (const QVariant &v : values)
-        q.addBindValue(v);
-    return q.exec();
+    return sqlfixture::run(path, sql, values);
 }
 
 // A User.vkt with one recorded answer the shipped file lacks.
 bool makeUser(const QString &path)
 {
-    QString error;
-    return DatabaseBuilder::build(QStringLiteral(VEKTO_SOURCE_DIR "/data/schema.sql"), {}, path, &error)
+    return fixture::makeDatabaseAt(path)
         && exec(path, QStringLiteral("INSERT INTO Dados (Aparelho, Comando, Dados) VALUES ('IP 7', 'mine', 'recorded')"));
 }
 
@@ -59,14 +52,6 @@ public:
         return reply;
     }
 };
-
-QString accessFixture()
-{
-    QString dir = qEnvironmentVariable("VEKTO_SHARED_DIR");
-    if (dir.isEmpty())
-        dir = QStringLiteral(VEKTO_SHARED_DIR);
-    return QDir(dir).filePath(QStringLiteral("fixtures/DateTestDatabase.mdb"));
-}
 
 } // namespace
 
@@ -125,46 +110,36 @@ private slots:
         QTEST(Database(rig.path).syncbd().value_or(QStringLiteral("?")), "after");
     }
 
-    void declinedTwiceIsNotAskedAgainButTheMenuImports()
+    // Declined twice, the question is not asked again; the about screen's menu still imports,
+    // asking for the file when none lies beside Config.vkt.
+    void menuImportsWhateverTheQuestion()
     {
         fixture::ScreenRig rig;
         QVERIFY(exec(rig.path, QStringLiteral("INSERT INTO Tools (Idioma, syncbd) VALUES ('1', '0')")));
-        QVERIFY(makeUser(StartupSteps::userFilePath(rig.path)));
+        QTemporaryDir elsewhere;
+        const QString user = elsewhere.filePath(QStringLiteral("Antigo.vkt"));
+        QVERIFY(makeUser(user) && makeUser(StartupSteps::userFilePath(rig.path)));
         for (int start = 0; start < 4; ++start) {
             rig.dialogs.answers = {false};
             StartupSteps::perguntaImportacao(rig.session, rig.dialogs, nullptr);
         }
         QCOMPARE(rig.dialogs.shown.size(), 2);
         QVERIFY(!imported(rig.path));
-
         FakeShell shell;
-        Sobre sobre({rig.session, rig.exchange, rig.dialogs}, shell, [] { return QString(); });
+        QStringList chosen{QString(), user};
+        Sobre sobre({rig.session, rig.exchange, rig.dialogs}, shell, [&] { return chosen.takeFirst(); });
         sobre.sincronizar();
         QVERIFY(imported(rig.path));
         QCOMPARE(rig.dialogs.shown.last(), QStringLiteral("MSG_DADOS_SYNC"));
-    }
+        QCOMPARE(chosen.size(), 2); // the file beside was found: nothing asked
 
-    void menuAsksForTheFileWhenNoneIsBeside()
-    {
-        fixture::ScreenRig rig;
-        QTemporaryDir elsewhere;
-        const QString user = elsewhere.filePath(QStringLiteral("Antigo.vkt"));
-        QVERIFY(makeUser(user));
-        FakeShell shell;
-        int asked = 0;
-        QString answer;
-        Sobre sobre({rig.session, rig.exchange, rig.dialogs}, shell, [&] {
-            ++asked;
-            return answer;
-        });
-        sobre.sincronizar(); // cancelled
-        QCOMPARE(asked, 1);
-        QVERIFY(rig.dialogs.shown.isEmpty());
-        QVERIFY(!imported(rig.path));
-        answer = user;
-        sobre.sincronizar();
-        QCOMPARE(asked, 2);
-        QVERIFY(imported(rig.path));
+        fixture::ScreenRig other;
+        Sobre asking({other.session, other.exchange, other.dialogs}, shell, [&] { return chosen.takeFirst(); });
+        asking.sincronizar(); // cancelled
+        QVERIFY(other.dialogs.shown.isEmpty() && !imported(other.path));
+        asking.sincronizar();
+        QVERIFY(chosen.isEmpty());
+        QVERIFY(imported(other.path));
     }
 
     void updateCheck_data()
@@ -177,31 +152,25 @@ private slots:
         QTest::addColumn<bool>("goesOn");
         QTest::addColumn<QString>("box");      // first box, or empty
         QTest::addColumn<QStringList>("opened");
-        const QString page = QStringLiteral("https://www.example.com/baixar");
+        const char *page = "https://www.example.com/baixar", *v = "https://v.example.com/v";
         const QString ask = QStringLiteral("question:Atualização|Existe uma atualização disponível. Deseja atualizar agora?");
+        const QString must = QStringLiteral("info:Atualização Obrigatória|Atualização obrigatória para continuar utilizando o "
+                                            "aplicativo\r\n\r\n");
         using S = HttpReply::Status;
-        QTest::newRow("OK") << "https://v.example.com/v" << page << int(S::Ok) << QByteArray("OK") << true << true
-                            << "" << QStringList();
-        QTest::newRow("empty endpoint is not asked") << "" << page << int(S::Ok) << QByteArray("[m](O)") << true << true
-                                                     << "" << QStringList();
-        QTest::newRow("optional, No") << "https://v.example.com/v" << page << int(S::Ok) << QByteArray("[m](N)") << false
-                                      << true << ask << QStringList();
-        QTest::newRow("optional, Yes") << "https://v.example.com/v" << page << int(S::Ok) << QByteArray("[m](N)") << true
-                                       << false << ask << QStringList{page};
-        QTest::newRow("mandatory") << "https://v.example.com/v" << page << int(S::Ok) << QByteArray("[Versão 2](O)") << true
-                                   << false
-                                   << "info:Atualização Obrigatória|Atualização obrigatória para continuar utilizando o "
-                                      "aplicativo\r\n\r\nVersão 2"
-                                   << QStringList{page};
-        QTest::newRow("mandatory, http page not opened") << "https://v.example.com/v" << "http://www.example.com/baixar"
-                                                         << int(S::Ok) << QByteArray("[m](O)") << true << false
-                                                         << "info:Atualização Obrigatória|Atualização obrigatória para "
-                                                            "continuar utilizando o aplicativo\r\n\r\nm"
-                                                         << QStringList();
-        QTest::newRow("server error") << "https://v.example.com/v" << page << int(S::HttpError) << QByteArray("[m](O)")
-                                      << true << true << "" << QStringList();
-        QTest::newRow("time-out") << "https://v.example.com/v" << page << int(S::TimedOut) << QByteArray() << true
-                                  << true << "" << QStringList();
+        const struct { const char *tag, *endpoint, *download; S status; const char *body; bool yes, goesOn; QString box; bool opens; } rows[] = {
+            {"OK", v, page, S::Ok, "OK", true, true, {}, false},
+            {"empty endpoint is not asked", "", page, S::Ok, "[m](O)", true, true, {}, false},
+            {"optional, No", v, page, S::Ok, "[m](N)", false, true, ask, false},
+            {"optional, Yes", v, page, S::Ok, "[m](N)", true, false, ask, true},
+            {"mandatory", v, page, S::Ok, "[Versão 2](O)", true, false, must + QStringLiteral("Versão 2"), true},
+            {"mandatory, http page not opened", v, "http://www.example.com/baixar", S::Ok, "[m](O)", true, false, must + u'm', false},
+            {"server error", v, page, S::HttpError, "[m](O)", true, true, {}, false},
+            {"time-out", v, page, S::TimedOut, "", true, true, {}, false},
+        };
+        for (const auto &r : rows)
+            QTest::newRow(r.tag) << QString::fromUtf8(r.endpoint) << QString::fromUtf8(r.download) << int(r.status)
+                                 << QByteArray(r.body) << r.yes << r.goesOn << r.box
+                                 << (r.opens ? QStringList{QString::fromUtf8(r.download)} : QStringList());
     }
     void updateCheck()
     {
@@ -243,14 +212,13 @@ private slots:
         QVERIFY(rig.dialogs.shown.isEmpty());
     }
 
+    // The address rule itself is the update check's; here only that the menu follows it.
     void linkMenu_data()
     {
         QTest::addColumn<QString>("address");
         QTest::addColumn<bool>("enabled");
         QTest::newRow("https") << "https://www.example.com/suporte" << true;
         QTest::newRow("http") << "http://www.example.com/suporte" << false;
-        QTest::newRow("empty") << "" << false;
-        QTest::newRow("file") << "file:///etc/passwd" << false;
     }
     void linkMenu()
     {
@@ -261,7 +229,6 @@ private slots:
         FakeShell shell;
         LinkMenu menu(rig.session, shell);
         QAction *action = menu.findChild<QAction *>(QStringLiteral("linkUrlSuporte"));
-        QVERIFY(action);
         QCOMPARE(action->isEnabled(), enabled);
         action->trigger();
         QCOMPARE(shell.opened, enabled ? QStringList{address} : QStringList());
@@ -285,11 +252,11 @@ private slots:
 
     void accessConfigThatIsNotOursIsLeftAlone()
     {
-        if (!QFile::exists(accessFixture()))
+        if (!QFile::exists(sqlfixture::accessFile()))
             QSKIP("the shared Access fixture is not beside the project");
         QTemporaryDir dir;
         const QString config = dir.filePath(QStringLiteral("Config.vkt"));
-        QVERIFY(QFile::copy(accessFixture(), config));
+        QVERIFY(QFile::copy(sqlfixture::accessFile(), config));
         QFile::setPermissions(config, QFile::ReadOwner | QFile::WriteOwner);
         const QByteArray before = digest(config);
         FakeDialogs dialogs;
@@ -302,11 +269,11 @@ private slots:
 
     void accessConfigIsCarriedOver()
     {
-        if (!QFile::exists(accessFixture()))
+        if (!QFile::exists(sqlfixture::accessFile()))
             QSKIP("the shared Access fixture is not beside the project");
         QTemporaryDir dir;
         const QString config = dir.filePath(QStringLiteral("Config.vkt"));
-        QVERIFY(QFile::copy(accessFixture(), config));
+        QVERIFY(QFile::copy(sqlfixture::accessFile(), config));
         const QByteArray original = digest(config);
         const AccessMigration::Result result = AccessMigration::migrate(config, {QStringLiteral("DateTest")});
         QVERIFY2(result.migrated, qPrintable(result.error));
@@ -329,7 +296,7 @@ private slots:
     {
         QTemporaryDir dir;
         const QString config = dir.filePath(QStringLiteral("Config.vkt"));
-        QVERIFY(DatabaseBuilder::build(QStringLiteral(VEKTO_SOURCE_DIR "/data/schema.sql"), {}, config));
+        QVERIFY(fixture::makeDatabaseAt(config));
         // The Tools table of the first release.
         QVERIFY(exec(config, QStringLiteral("DROP TABLE Tools")));
         QVERIFY(exec(config, QStringLiteral("CREATE TABLE Tools (Idioma TEXT, syncbd TEXT)")));
@@ -346,6 +313,146 @@ private slots:
             QCOMPARE(db.toolsText(column), QString());
         QVERIFY(db.setToolsText(QStringLiteral("Termos"), QStringLiteral("1")));
         QCOMPARE(db.toolsText(QStringLiteral("Termos")), QStringLiteral("1"));
+    }
+
+    // --- the update check ----------------------------------------------------------------
+
+    void parse_data()
+    {
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<Kind>("kind");
+        QTest::addColumn<QString>("message");
+        QTest::addColumn<QString>("mode");
+        QTest::newRow("empty") << "" << Kind::Current << "" << "";
+        QTest::newRow("OK") << "OK" << Kind::Current << "" << "";
+        QTest::newRow("OK with line end") << "OK\r\n" << Kind::Current << "" << "";
+        QTest::newRow("ok in lower case is a notice") << "ok" << Kind::Optional << "" << "";
+        QTest::newRow("mandatory") << "[Versão 1.90 corrige a leitura NAND](O)" << Kind::Mandatory
+                                   << "Versão 1.90 corrige a leitura NAND" << "O";
+        QTest::newRow("optional") << "[Nova versão](N)" << Kind::Optional << "Nova versão" << "N";
+        QTest::newRow("mode before message") << "(O) texto [msg]" << Kind::Mandatory << "msg" << "O";
+        QTest::newRow("first brackets only") << "[a] [b] (x) (O)" << Kind::Optional << "a" << "x";
+        QTest::newRow("bracket never closed") << "[sem fim (O)" << Kind::Mandatory << "" << "O";
+        QTest::newRow("closing before opening") << "] x [msg] )(N)" << Kind::Optional << "msg" << "N";
+        QTest::newRow("lower-case o is not mandatory") << "[m](o)" << Kind::Optional << "m" << "o";
+        QTest::newRow("padded mode is not mandatory") << "[m]( O )" << Kind::Optional << "m" << " O ";
+        QTest::newRow("no marks at all") << "<html>portal</html>" << Kind::Optional << "" << "";
+    }
+    void parse()
+    {
+        QFETCH(QString, answer);
+        const UpdateCheck::Outcome outcome = UpdateCheck::parse(answer);
+        QTEST(outcome.kind, "kind");
+        QTEST(outcome.message, "message");
+        QTEST(outcome.mode, "mode");
+    }
+
+    void addresses_data()
+    {
+        QTest::addColumn<QString>("address");
+        QTest::addColumn<bool>("asked");        // usable as the version page
+        QTest::addColumn<bool>("downloadPage"); // may be opened as the download page
+        QTest::newRow("https") << "https://www.example.com/v" << true << true;
+        QTest::newRow("http") << "http://www.example.com/v" << true << false;
+        QTest::newRow("blank around") << "  https://www.example.com/v " << true << true;
+        QTest::newRow("empty") << "" << false << false;
+        QTest::newRow("file") << "file:///etc/passwd" << false << false;
+        QTest::newRow("javascript") << "javascript:alert(1)" << false << false;
+        QTest::newRow("ftp") << "ftp://www.example.com/setup.exe" << false << false;
+        QTest::newRow("no host") << "https:///v" << false << false;
+        QTest::newRow("not an address") << "update page" << false << false;
+    }
+    void addresses()
+    {
+        QFETCH(QString, address);
+        QTEST(UpdateCheck::requestUrl(address, QStringLiteral("1.81")).isValid(), "asked");
+        QTEST(UpdateCheck::isSafeDownloadPage(address), "downloadPage");
+    }
+
+    void requestCarriesTheVersion()
+    {
+        const QUrl url = UpdateCheck::requestUrl(QStringLiteral("https://h.example.com/v?canal=1&versao=0.1"),
+                                                 QStringLiteral("1.81"));
+        const QUrlQuery query(url);
+        QCOMPARE(query.queryItemValue(QStringLiteral("canal")), QStringLiteral("1"));
+        QCOMPARE(query.allQueryItemValues(QStringLiteral("versao")), QStringList{QStringLiteral("1.81")});
+    }
+
+    // The real client against the loopback server.
+    void loopback_data()
+    {
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QByteArray>("body");
+        QTest::addColumn<bool>("silent");
+        QTest::addColumn<Kind>("kind");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("OK") << 200 << QByteArray("OK") << false << Kind::Current << "";
+        QTest::newRow("mandatory") << 200 << QByteArray("[Obrigatória](O)") << false << Kind::Mandatory << "Obrigatória";
+        QTest::newRow("500 with a notice in its body") << 500 << QByteArray("[x](O)") << false << Kind::NoAnswer << "";
+        QTest::newRow("404") << 404 << QByteArray("not here") << false << Kind::NoAnswer << "";
+        QTest::newRow("oversized") << 200 << QByteArray(10 * 1024 * 1024, 'A').prepend("[big](O)") << false
+                                   << Kind::NoAnswer << "";
+        QTest::newRow("binary") << 200 << QByteArray("[x](O)\0\x01\x02\xff", 10) << false << Kind::NoAnswer << "";
+        QTest::newRow("never answers") << 200 << QByteArray() << true << Kind::NoAnswer << "";
+    }
+    void loopback()
+    {
+        QFETCH(int, status);
+        QFETCH(QByteArray, body);
+        QFETCH(bool, silent);
+        LoopbackHttpServer server;
+        QVERIFY(server.isListening());
+        server.answer = {status, body, {}, silent};
+        QtHttp http;
+        const UpdateCheck::Outcome outcome = UpdateCheck::check(http, server.url(), QStringLiteral("1.81"));
+        QTEST(outcome.kind, "kind");
+        QTEST(outcome.message, "message");
+        if (outcome.kind == Kind::NoAnswer)
+            QVERIFY2(!outcome.detail.isEmpty(), "a missing answer must say why");
+        QCOMPARE(server.requestLines.size(), 1);
+        QVERIFY2(server.requestLines.first().startsWith("GET /versao?versao=1.81 "), server.requestLines.first());
+    }
+
+    // A redirect is followed only to the same scheme; TARGET is a second server answering "OK".
+    void redirects_data()
+    {
+        QTest::addColumn<QByteArray>("headers");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<bool>("followed");
+        QTest::newRow("redirect to https") << QByteArray("Location: https://127.0.0.1:1/v\r\n") << 302 << false;
+        QTest::newRow("redirect to ftp") << QByteArray("Location: ftp://127.0.0.1/v\r\n") << 301 << false;
+        QTest::newRow("redirect to a file") << QByteArray("Location: file:///etc/hostname\r\n") << 307 << false;
+        QTest::newRow("same scheme") << QByteArray("Location: TARGET\r\n") << 302 << true;
+    }
+    void redirects()
+    {
+        QFETCH(QByteArray, headers);
+        QFETCH(int, status);
+        QFETCH(bool, followed);
+        LoopbackHttpServer target;
+        target.answer = {200, QByteArray("OK"), {}, false};
+        LoopbackHttpServer server;
+        server.answer = {status, QByteArray(), headers.replace("TARGET", target.url(QStringLiteral("/novo")).toUtf8()), false};
+        QtHttp http;
+        const HttpReply reply = http.get(QUrl(server.url()), std::chrono::milliseconds(2000), 1024);
+        QCOMPARE(reply.status == HttpReply::Status::Ok, followed);
+        QCOMPARE(reply.body, followed ? QByteArray("OK") : QByteArray());
+        QCOMPARE(server.requestLines.size(), 1);
+        QCOMPARE(target.requestLines.size(), followed ? 1 : 0);
+    }
+
+    void unreachableServer()
+    {
+        quint16 port = 0;
+        {
+            QTcpServer closed;
+            QVERIFY(closed.listen(QHostAddress::LocalHost));
+            port = closed.serverPort();
+        }
+        QtHttp http;
+        const UpdateCheck::Outcome outcome =
+            UpdateCheck::check(http, QStringLiteral("http://127.0.0.1:%1/v").arg(port), QStringLiteral("1.81"));
+        QCOMPARE(outcome.kind, Kind::NoAnswer);
     }
 };
 

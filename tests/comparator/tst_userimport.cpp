@@ -8,86 +8,27 @@
 #include "DatabaseBuilder.h"
 #include "Texts.h"
 #include "UserImport.h"
+#include "platform/SqlFixture.h"
 
-#include <QCryptographicHash>
-#include <QSqlDatabase>
-#include <QSqlError>
-#include <QSqlQuery>
-#include <QSqlRecord>
 #include <QTemporaryDir>
 #include <QtTest>
 
 using UserImport::Problem;
+using sqlfixture::digest;
 Q_DECLARE_METATYPE(UserImport::Problem)
 
 namespace {
 
 const QString Schema = QStringLiteral(VEKTO_SOURCE_DIR "/data/schema.sql");
 
-QByteArray digest(const QString &path)
-{
-    QFile f(path);
-    if (!f.open(QIODevice::ReadOnly))
-        return {};
-    return QCryptographicHash::hash(f.readAll(), QCryptographicHash::Sha256);
-}
-
-// Runs statements with bound values on a file; each entry is SQL followed by its values.
-bool run(const QString &path, const QList<QVariantList> &statements)
-{
-    static int n = 0;
-    const QString name = QStringLiteral("tst-%1").arg(++n);
-    bool ok = true;
-    {
-        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
-        db.setDatabaseName(path);
-        ok = db.open();
-        for (const QVariantList &s : statements) {
-            QSqlQuery q(db);
-            ok = ok && q.prepare(s.first().toString());
-            for (qsizetype i = 1; i < s.size(); ++i)
-                q.addBindValue(s.at(i));
-            if (ok && !q.exec()) {
-                qWarning() << q.lastError().text() << s.first();
-                ok = false;
-            }
-        }
-        db.close();
-    }
-    QSqlDatabase::removeDatabase(name);
-    return ok;
-}
-
 // Every row of the tables the import touches, in a fixed order, as one text.
 QString dump(const QString &path)
 {
-    QString text;
-    {
-        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("dump"));
-        db.setDatabaseName(path);
-        db.open();
-        for (const char *table : {"Master", "Dados", "Comandos", "Combos", "Tools", "M"}) {
-            QSqlQuery q(db);
-            q.exec(QStringLiteral("SELECT * FROM %1 ORDER BY 1, 2, 3").arg(QLatin1String(table)));
-            while (q.next()) {
-                text += QLatin1String(table);
-                for (int c = 0; c < q.record().count(); ++c)
-                    text += u'|' + q.value(c).toString();
-                text += u'\n';
-            }
-        }
-        db.close();
-    }
-    QSqlDatabase::removeDatabase(QStringLiteral("dump"));
-    return text;
-}
-
-QString accessFixture()
-{
-    QString dir = qEnvironmentVariable("VEKTO_SHARED_DIR");
-    if (dir.isEmpty())
-        dir = QStringLiteral(VEKTO_SHARED_DIR);
-    return QDir(dir).filePath(QStringLiteral("fixtures/DateTestDatabase.mdb"));
+    sqlfixture::Raw raw(path);
+    QStringList text;
+    for (const char *table : {"Master", "Dados", "Comandos", "Combos", "Tools", "M"})
+        text += raw.rows(QStringLiteral("SELECT * FROM %1 ORDER BY 1, 2, 3").arg(QLatin1String(table)));
+    return text.join(u'\n');
 }
 
 const QString Master = QStringLiteral("INSERT INTO Master (Modelo, Malha, Ci, TIPO, Reft, refv, Leitura, G1, G2, G3) "
@@ -112,7 +53,7 @@ class TestUserImport : public QObject
     {
         QFile::remove(m_config);
         return DatabaseBuilder::build(Schema, {}, m_config)
-            && run(m_config, {
+            && sqlfixture::runAll(m_config, {
                 {Master, "IP 7", "PP_VDD_MAIN", "U1", 1, "VDD_MAIN", "4.000", "", "", "", ""},
                 {Master, "IP 7", "PP1V8", "U2", 2, "PP1V8_NEW", "1.800", "1.799", "", "", ""},
                 {Master, "IP X", "PP3V0", "U3", 2, "PP3V0", "3.000", "", "", "", ""},
@@ -143,7 +84,7 @@ class TestUserImport : public QObject
             {QStringLiteral("INSERT INTO M (String) VALUES ('USER MASK')")},
         };
         rows += extra;
-        return DatabaseBuilder::build(Schema, {}, m_user) && run(m_user, rows);
+        return DatabaseBuilder::build(Schema, {}, m_user) && sqlfixture::runAll(m_user, rows);
     }
 
 private slots:
@@ -235,8 +176,8 @@ private slots:
     // A fault in the middle of the writes (after Master and Dados were written) undoes all.
     void failureHalfWayChangesNothing()
     {
-        QVERIFY(run(m_config, {{QStringLiteral("CREATE TRIGGER refuse BEFORE INSERT ON Comandos "
-                                               "BEGIN SELECT RAISE(ABORT, 'disk full'); END")}}));
+        QVERIFY(sqlfixture::run(m_config, QStringLiteral("CREATE TRIGGER refuse BEFORE INSERT ON Comandos "
+                                                         "BEGIN SELECT RAISE(ABORT, 'disk full'); END")));
         const QByteArray before = digest(m_config);
         const UserImport::Report report = UserImport::run(m_user, m_config);
         QCOMPARE(report.problem, Problem::ConfigFailed);
@@ -245,55 +186,49 @@ private slots:
         QCOMPARE(digest(m_config), before);
     }
 
+    // A source that cannot be imported is refused with its reason and leaves Config.vkt alone.
     void badSource_data()
     {
-        QTest::addColumn<QByteArray>("content");   // written over User.vkt unless empty marker
-        QTest::addColumn<QString>("sql");          // or run on the built User.vkt
+        QTest::addColumn<QString>("source");     // User.vkt, or another file named here
+        QTest::addColumn<QByteArray>("content"); // written over User.vkt unless null
+        QTest::addColumn<QString>("sql");        // or run on the built User.vkt
         QTest::addColumn<Problem>("problem");
-        QTest::newRow("empty file") << QByteArray("") << "" << Problem::Empty;
-        QTest::newRow("text file") << QByteArray("Modelo;Malha;G1\n") << "" << Problem::NotADatabase;
-        QTest::newRow("SQLite header, then garbage") << QByteArray("SQLite format 3\0", 16) + QByteArray(4000, '\x55')
+        const QString user = QStringLiteral("User.vkt");
+        QTest::newRow("empty file") << user << QByteArray("") << "" << Problem::Empty;
+        QTest::newRow("text file") << user << QByteArray("Modelo;Malha;G1\n") << "" << Problem::NotADatabase;
+        QTest::newRow("SQLite header, then garbage") << user << QByteArray("SQLite format 3\0", 16) + QByteArray(4000, '\x55')
                                                      << "" << Problem::Unreadable;
-        QTest::newRow("Access signature only") << QByteArray("\x00\x01\x00\x00Standard Jet DB\x00", 20) << ""
-                                               << Problem::Unreadable;
-        QTest::newRow("table missing") << QByteArray() << "DROP TABLE Combos" << Problem::OtherSchema;
-        QTest::newRow("column missing") << QByteArray() << "ALTER TABLE Master DROP COLUMN G2" << Problem::OtherSchema;
+        QTest::newRow("NUL bytes") << user << QByteArray(64, '\0') << "" << Problem::NotADatabase;
+        QTest::newRow("Jet signature only") << user << QByteArray("\x00\x01\x00\x00Standard Jet DB\x00", 20) << ""
+                                            << Problem::Unreadable;
+        QTest::newRow("ACE signature only") << user << QByteArray("\x00\x01\x00\x00Standard ACE DB\x00", 20) << ""
+                                            << Problem::Unreadable;
+        QTest::newRow("table missing") << user << QByteArray() << "DROP TABLE Combos" << Problem::OtherSchema;
+        QTest::newRow("column missing") << user << QByteArray() << "ALTER TABLE Master DROP COLUMN G2" << Problem::OtherSchema;
+        QTest::newRow("missing file") << "none.vkt" << QByteArray() << "" << Problem::Missing;
+        QTest::newRow("the same file") << "Config.vkt" << QByteArray() << "" << Problem::SameFile;
+        QTest::newRow("Access file of another schema") << sqlfixture::accessFile() << QByteArray() << ""
+                                                       << Problem::OtherSchema;
     }
     void badSource()
     {
+        QFETCH(QString, source);
         QFETCH(QByteArray, content);
         QFETCH(QString, sql);
-        if (!sql.isEmpty()) {
-            QVERIFY(run(m_user, {{sql}}));
-        } else {
+        if (source.startsWith(u'/') && !QFile::exists(source))
+            QSKIP("the shared Access fixture is not beside the project");
+        if (!sql.isEmpty())
+            QVERIFY(sqlfixture::run(m_user, sql));
+        if (!content.isNull()) {
             QFile f(m_user);
             QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
             f.write(content);
         }
         const QByteArray before = digest(m_config);
-        const UserImport::Report report = UserImport::run(m_user, m_config);
+        const UserImport::Report report = UserImport::run(QDir::isAbsolutePath(source) ? source : m_dir.filePath(source), m_config);
         QTEST(report.problem, "problem");
         QVERIFY(!report.detail.isEmpty());
         QVERIFY(!report.messageKey().isEmpty());
-        QCOMPARE(digest(m_config), before);
-    }
-
-    void accessFileOfAnotherSchema()
-    {
-        if (!QFile::exists(accessFixture()))
-            QSKIP("the shared Access fixture is not beside the project");
-        const QByteArray before = digest(m_config);
-        const UserImport::Report report = UserImport::run(accessFixture(), m_config);
-        QCOMPARE(report.problem, Problem::OtherSchema);
-        QVERIFY2(report.detail.contains(QStringLiteral("Master")), qPrintable(report.detail));
-        QCOMPARE(digest(m_config), before);
-    }
-
-    void missingAndSameFile()
-    {
-        const QByteArray before = digest(m_config);
-        QCOMPARE(UserImport::run(m_dir.filePath(QStringLiteral("none.vkt")), m_config).problem, Problem::Missing);
-        QCOMPARE(UserImport::run(m_config, m_config).problem, Problem::SameFile);
         QCOMPARE(digest(m_config), before);
     }
 
@@ -301,20 +236,12 @@ private slots:
     {
         // Another program holding a write lock on either file.
         for (const QString &locked : {m_user, m_config}) {
-            QSqlDatabase other = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("other"));
-            other.setDatabaseName(locked);
-            QVERIFY(other.open());
-            QSqlQuery q(other);
-            QVERIFY(q.exec(QStringLiteral("BEGIN EXCLUSIVE")));
-            const UserImport::Report report = UserImport::run(m_user, m_config);
-            QCOMPARE(report.problem, locked == m_user ? Problem::Locked : Problem::ConfigFailed);
-            q.exec(QStringLiteral("ROLLBACK"));
-            q.finish();
-            other.close();
-            other = QSqlDatabase();
-            QSqlDatabase::removeDatabase(QStringLiteral("other"));
+            sqlfixture::Raw other(locked);
+            QVERIFY(other.exec(QStringLiteral("BEGIN EXCLUSIVE")));
+            QCOMPARE(UserImport::run(m_user, m_config).problem, locked == m_user ? Problem::Locked : Problem::ConfigFailed);
+            QVERIFY(other.exec(QStringLiteral("ROLLBACK")));
         }
-        QCOMPARE(dump(m_config).contains(QStringLiteral("my answer")), false);
+        QVERIFY(!dump(m_config).contains(QStringLiteral("my answer")));
     }
 
     void everyProblemHasItsText()

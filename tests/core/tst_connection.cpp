@@ -83,29 +83,23 @@ class TestConnection : public QObject
         {
             session.setWindowTitle(QStringLiteral("Pelorin Vekto 1.81"));
             controller.setModelLookup([](const QString &number) -> std::optional<QString> {
-                if (number == QLatin1String("A1778"))
-                    return QStringLiteral("IP 7");
-                if (number == QLatin1String("A1865"))
-                    return QStringLiteral("IP X");
-                return std::nullopt;
+                const QHash<QString, QString> known{{"A1778", "IP 7"}, {"A1865", "IP X"}};
+                return known.contains(number) ? std::optional(known.value(number)) : std::nullopt;
             });
             // The phone echoes the command with its CR, then LF, its output and the prompt.
             port.onWrite = [this](const QByteArray &command) {
                 if (!answers.isEmpty())
                     port.arrive({command + '\n' + answers.takeFirst()});
             };
-            QObject::connect(&controller, &ConnectionController::message, &controller,
-                             [this](const QString &k, const QString &p) { messages << k + '|' + p; });
-            QObject::connect(&controller, &ConnectionController::modelRecognised, &controller,
-                             [this](const QString &m) { recognised << m; });
-            QObject::connect(&controller, &ConnectionController::buttonCaptionChanged, &controller,
-                             [this](const QString &k) { button = k; });
-            QObject::connect(&controller, &ConnectionController::statusLightChanged, &controller,
-                             [this](const QString &k) { light = k; });
-            QObject::connect(&controller, &ConnectionController::connectionLabelChanged, &controller,
-                             [this](const QString &k) { label = k; });
-            QObject::connect(&controller, &ConnectionController::refillPorts, &controller, [this] { ++refills; });
-            QObject::connect(&controller, &ConnectionController::focusModelCombo, &controller, [this] { ++focus; });
+            using C = ConnectionController;
+            const auto keep = [this](QString &into) { return [&into](const QString &k) { into = k; }; };
+            QObject::connect(&controller, &C::message, &controller, [this](const QString &k, const QString &p) { messages << k + '|' + p; });
+            QObject::connect(&controller, &C::modelRecognised, &controller, [this](const QString &m) { recognised << m; });
+            QObject::connect(&controller, &C::buttonCaptionChanged, &controller, keep(button));
+            QObject::connect(&controller, &C::statusLightChanged, &controller, keep(light));
+            QObject::connect(&controller, &C::connectionLabelChanged, &controller, keep(label));
+            QObject::connect(&controller, &C::refillPorts, &controller, [this] { ++refills; });
+            QObject::connect(&controller, &C::focusModelCombo, &controller, [this] { ++focus; });
             clock.add(exchange.timer1(), [this] { exchange.onTimer1(); });
             clock.add(exchange.timer2(), [this] { exchange.onTimer2(); });
             clock.add(controller.timerValidaPorta(), [this] { controller.onTimerValidaPorta(); });
@@ -129,28 +123,11 @@ class TestConnection : public QObject
     {
         QVERIFY(!rig.port.isOpen());
         QCOMPARE(rig.session.connectionFlag(), QStringLiteral("0"));
-        QCOMPARE(rig.label, QStringLiteral("Desconectado"));
-        QCOMPARE(rig.button, QStringLiteral("Conectar"));
-        QCOMPARE(rig.light, QStringLiteral("Branco"));
+        QCOMPARE(QStringList({rig.label, rig.button, rig.light}), QStringList({"Desconectado", "Conectar", "Branco"}));
         QVERIFY(rig.idle());
     }
 
 private slots:
-    void connectOpensAndAsksForTheModel()
-    {
-        Rig rig;
-        QVERIFY(rig.idle());
-        rig.connectTo();
-        QVERIFY(rig.port.isOpen());
-        QCOMPARE(rig.port.openedName, QStringLiteral("/dev/fake3"));
-        QCOMPARE(rig.port.written, QList<QByteArray>{"syscfg print RMd#\r"});
-        QCOMPARE(rig.session.connectionFlag(), QStringLiteral("2"));
-        QCOMPARE(rig.label, QStringLiteral("Conectando"));
-        QCOMPARE(rig.button, QStringLiteral("Conectando"));
-        QCOMPARE(rig.light, QStringLiteral("Amarelo"));
-        QVERIFY(rig.controller.timerValidaPorta().isActive());
-    }
-
     // What the first answer leads to.
     void firstAnswer_data()
     {
@@ -185,9 +162,7 @@ private slots:
         QVERIFY(rig.idle());
         QCOMPARE(connected.count(), 1);
         QCOMPARE(rig.session.connectionFlag(), QStringLiteral("1"));
-        QCOMPARE(rig.label, QStringLiteral("Conectado"));
-        QCOMPARE(rig.button, QStringLiteral("Desconectar"));
-        QCOMPARE(rig.light, QStringLiteral("Verde"));
+        QCOMPARE(QStringList({rig.label, rig.button, rig.light}), QStringList({"Conectado", "Desconectar", "Verde"}));
         QCOMPARE(rig.recognised, model.isEmpty() ? QStringList{} : QStringList{model});
         QCOMPARE(rig.controller.modelNumber(), modelNumber);
         QCOMPARE(rig.messages, messages);
@@ -310,41 +285,56 @@ private slots:
         QCOMPARE(rig.recognised, QStringList{QStringLiteral("IP X")});
     }
 
-    // Clicks that never reach the device: busy, a port number the rule forbids, an open error.
-    void connectRefused_data()
+    // A click on Connect: opened and asked for the model, or refused before reaching the device
+    // (busy, a port number the rule forbids, an open error). Only a COM number above 16 is
+    // refused; a device name never is.
+    void connectClick_data()
     {
         QTest::addColumn<QString>("flag");
         QTest::addColumn<bool>("rule");
         QTest::addColumn<QString>("number");
         QTest::addColumn<int>("error");
+        QTest::addColumn<bool>("opens");
         QTest::addColumn<QStringList>("messages");
         const int none = int(SerialPort::NoError);
+        QTest::newRow("opens") << "0" << true << "3" << none << true << QStringList{};
+        QTest::newRow("COM16") << "0" << true << "16" << none << true << QStringList{};
+        QTest::newRow("device names have no such rule") << "0" << false << "17" << none << true << QStringList{};
         // The busy rows keep their flag; the others stay at "0".
-        QTest::newRow("connecting") << "2" << true << "9" << none << QStringList{};
-        QTest::newRow("exchange running") << "3" << true << "9" << none << QStringList{};
-        QTest::newRow("COM17") << "0" << true << "17" << none << QStringList{"MSG_16|17"};
-        QTest::newRow("8005 in use") << "0" << true << "4" << int(SerialPort::PortAlreadyOpen)
+        QTest::newRow("connecting") << "2" << true << "9" << none << false << QStringList{};
+        QTest::newRow("exchange running") << "3" << true << "9" << none << false << QStringList{};
+        QTest::newRow("COM17") << "0" << true << "17" << none << false << QStringList{"MSG_16|17"};
+        QTest::newRow("8005 in use") << "0" << true << "4" << int(SerialPort::PortAlreadyOpen) << false
                                      << QStringList{"MSG_PORTA_EM_USO|4"};
-        QTest::newRow("8002 invalid") << "0" << true << "4" << int(SerialPort::InvalidPort)
+        QTest::newRow("8002 invalid") << "0" << true << "4" << int(SerialPort::InvalidPort) << false
                                       << QStringList{"MSG_PORTA_INVALIDA|4"};
-        QTest::newRow("8012 not open") << "0" << true << "4" << int(SerialPort::PortNotOpen)
+        QTest::newRow("8012 not open") << "0" << true << "4" << int(SerialPort::PortNotOpen) << false
                                        << QStringList{"MSG_PORTA_INVALIDA|4"};
     }
-    void connectRefused()
+    void connectClick()
     {
         QFETCH(QString, flag);
         QFETCH(bool, rule);
         QFETCH(QString, number);
         QFETCH(int, error);
-        QFETCH(QStringList, messages);
+        QFETCH(bool, opens);
         Rig rig;
+        QVERIFY(rig.idle());
         rig.session.setConnectionFlag(flag);
         rig.controller.setComNumberRule(rule);
         rig.port.openError = error;
         rig.connectTo(number);
-        QVERIFY(!rig.port.isOpen());
+        QTEST(rig.messages, "messages");
+        QCOMPARE(rig.port.isOpen(), opens);
+        if (opens) {
+            QCOMPARE(rig.port.openedName, QStringLiteral("/dev/fake") + number);
+            QCOMPARE(rig.port.written, QList<QByteArray>{"syscfg print RMd#\r"});
+            QCOMPARE(rig.session.connectionFlag(), QStringLiteral("2"));
+            QCOMPARE(QStringList({rig.label, rig.button, rig.light}), QStringList({"Conectando", "Conectando", "Amarelo"}));
+            QVERIFY(rig.controller.timerValidaPorta().isActive());
+            return;
+        }
         QVERIFY(rig.port.written.isEmpty());
-        QCOMPARE(rig.messages, messages);
         QCOMPARE(rig.session.connectionFlag(), flag);
         if (flag != QLatin1String("0"))
             QVERIFY(rig.button.isEmpty()); // nothing redrawn either
@@ -352,23 +342,6 @@ private slots:
             QCOMPARE(rig.refills, 1);
             QVERIFY(rig.idle());
         }
-    }
-
-    // Only a COM number above 16 is refused; a device name is never.
-    void comNumberRuleAllows_data()
-    {
-        QTest::addColumn<bool>("rule");
-        QTest::newRow("COM16") << true;
-        QTest::newRow("device names have no such rule") << false;
-    }
-    void comNumberRuleAllows()
-    {
-        QFETCH(bool, rule);
-        Rig rig;
-        rig.controller.setComNumberRule(rule);
-        rig.connectTo(rule ? QStringLiteral("16") : QStringLiteral("17"));
-        QVERIFY(rig.port.isOpen());
-        QCOMPARE(rig.session.connectionFlag(), QStringLiteral("2"));
     }
 
     // The cable is pulled while the first answer arrives, or later while idle: the connection

@@ -1,6 +1,9 @@
-// The main window and the language screen on a real Config.vkt copy: the model list and its
-// memory across starts, the menu holding only registered screens, one instance per screen,
-// and a language change that closes the test screens, re-captions the frame and persists.
+// The program's start and main window. Start-up against every state Config.vkt can be found in:
+// missing, unreadable as a database, without tables, or fine; a failure shows one three-language
+// box, exits non-zero and leaves the file exactly as it was. Then the main window and the
+// language screen on a real Config.vkt copy: the model list and its memory across starts, the
+// menu holding only registered screens, one instance per screen, and a language change that
+// closes the test screens, re-captions the frame and persists.
 
 #include "ConnectionController.h"
 #include "ConsoleExchange.h"
@@ -10,8 +13,10 @@
 #include "Inicial.h"
 #include "PortList.h"
 #include "Session.h"
+#include "Startup.h"
 #include "TestScreen.h"
 #include "xIdioma.h"
+#include "platform/SqlFixture.h"
 
 #include <QComboBox>
 #include <QMdiArea>
@@ -88,16 +93,67 @@ private slots:
         QFile::setPermissions(m_path, QFile::ReadOwner | QFile::WriteOwner);
     }
 
+    void unusableConfig_data()
+    {
+        QTest::addColumn<QByteArray>("content"); // null: no file at all
+        QTest::addColumn<QString>("english");
+        QTest::newRow("missing") << QByteArray() << "missing, reinstall";
+        QTest::newRow("text file") << QByteArray("this is not a database\n") << "damaged";
+        QTest::newRow("SQLite file without our tables") << QByteArray("") << "tables";
+    }
+    void unusableConfig()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, english);
+        QTemporaryDir dir;
+        const QString path = Startup::configPath(dir.path());
+        QCOMPARE(QFileInfo(path).fileName(), QStringLiteral("Config.vkt"));
+        if (!content.isNull() && content.isEmpty())
+            QVERIFY(sqlfixture::run(path, QStringLiteral("CREATE TABLE other (x TEXT)")));
+        else if (!content.isNull()) {
+            QFile f(path);
+            QVERIFY(f.open(QIODevice::WriteOnly));
+            f.write(content);
+        }
+        const QByteArray before = sqlfixture::digest(path);
+        FakeDialogs dialogs;
+        const auto code = Startup::checkConfig(path, dialogs);
+        QVERIFY(code.has_value() && *code != 0);
+        QCOMPARE(dialogs.shown.size(), 1);
+        // One box in the three languages, naming the file.
+        const QString box = dialogs.shown.first();
+        QVERIFY2(box.startsWith(QStringLiteral("critical:")), qPrintable(box));
+        QVERIFY2(box.contains(content.isNull() ? QStringLiteral("Config.vkt") : QDir::toNativeSeparators(path)), qPrintable(box));
+        for (const char *prefix : {"BR - ", "US - ", "ES - "})
+            QVERIFY2(box.contains(QLatin1String(prefix)), qPrintable(box));
+        QVERIFY2(box.contains(english, Qt::CaseInsensitive), qPrintable(box));
+        QCOMPARE(sqlfixture::digest(path), before);
+        QCOMPARE(QFile::exists(path), !content.isNull());
+    }
+
+    void shippedConfigStartsWithItsLanguage()
+    {
+        const QString shipped = QStringLiteral(VEKTO_BIN_DIR "/Config.vkt");
+        QTemporaryDir dir;
+        const QString path = Startup::configPath(dir.path());
+        QVERIFY(QFile::copy(shipped, path));
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
+        QVERIFY(Database(path).setIdioma(3));
+        FakeDialogs dialogs;
+        QCOMPARE(Startup::checkConfig(path, dialogs), std::nullopt);
+        QVERIFY(dialogs.shown.isEmpty());
+        Session session(path);
+        Startup::initSession(session);
+        QCOMPARE(session.idioma(), quint8(3));
+        QCOMPARE(session.screenId(), QStringLiteral("0"));
+        QVERIFY(!session.startFlag());
+        QVERIFY(session.sessionStart().isValid());
+    }
     void modelListAndMemory()
     {
         {
             Program p(m_path);
             auto *combo = p.find<QComboBox>("ComboAparelhos");
-            QStringList items;
-            for (int i = 0; i < combo->count(); ++i)
-                items << combo->itemText(i);
-            QCOMPARE(items, (QStringList{"IP 6", "IP 6 Plus", "IP 6s", "IP 6s Plus", "IP 7", "IP 7 Plus", "IP 8",
-                                         "IP 8 Plus", "IP X"}));
             QCOMPARE(combo->currentText(), QStringLiteral("IP 7"));
             combo->setCurrentText(QStringLiteral("IP 8 Plus"));
             QCOMPARE(p.session.modelo(), QStringLiteral("IP 8 Plus"));
@@ -118,40 +174,26 @@ private slots:
         QCOMPARE(p.find<QComboBox>("ComboAparelhosX")->currentText(), QStringLiteral("IP X"));
     }
 
-    // A port where no phone answers: the first answer ends empty and the flag is "1" at once,
-    // but the button says "Conectando" until the validation gives up.
-    void connectButtonWaitsForTheValidation()
+    // The button and the status line follow the connection: "Conectando" until the phone is
+    // validated, and a pulled cable said in the session language until the next try.
+    void connectButtonAndStatusLine()
     {
         Program p(m_path);
-        p.connection.connectClicked(QStringLiteral("/dev/fake"), QStringLiteral("fake"));
-        p.exchange.onTimer1(); // nothing arrived: the answer is over
-        QCOMPARE(p.session.connectionFlag(), QStringLiteral("1"));
-        for (int tick = 0; tick < ConnectionController::GiveUpAfterTicks; ++tick) {
-            p.connection.onTimerValidaPorta();
-            QCOMPARE(p.find<QPushButton>("Botoes_1")->text(), QStringLiteral("Conectando"));
-            QVERIFY(!p.session.connectionValidated());
-        }
-        p.connection.onTimerValidaPorta();
-        QCOMPARE(p.find<QPushButton>("Botoes_1")->text(), QStringLiteral("Conectar"));
-
-        // A phone that answers: "Desconectar" once validated, and the session says so.
+        auto *button = p.find<QPushButton>("Botoes_1");
         p.port.onWrite = [&p](const QByteArray &) {
             p.port.arrive({"syscfg print RMd#\r\nA1660\n[0000001A:0000BEEF] :-) "});
         };
         p.connection.connectClicked(QStringLiteral("/dev/fake"), QStringLiteral("fake"));
         p.exchange.onTimer1();
-        p.exchange.onTimer2();
-        p.exchange.onTimer2();
-        p.exchange.onTimer2();
+        for (int tick = 0; tick < 3; ++tick)
+            p.exchange.onTimer2();
         QCOMPARE(p.session.connectionFlag(), QStringLiteral("1"));
-        QCOMPARE(p.find<QPushButton>("Botoes_1")->text(), QStringLiteral("Conectando"));
+        QCOMPARE(button->text(), QStringLiteral("Conectando"));
         p.connection.onTimerValidaPorta();
-        QCOMPARE(p.find<QPushButton>("Botoes_1")->text(), QStringLiteral("Desconectar"));
+        QCOMPARE(button->text(), QStringLiteral("Desconectar"));
         QVERIFY(p.session.connectionValidated());
-
-        // The cable is pulled: said on the status line, in the session language, until the next try.
         p.port.pull();
-        QCOMPARE(p.find<QPushButton>("Botoes_1")->text(), QStringLiteral("Conectar"));
+        QCOMPARE(button->text(), QStringLiteral("Conectar"));
         QCOMPARE(p.find<QLabel>("lbConexao")->text(), QStringLiteral("Conexão perdida"));
         QVERIFY(!p.session.connectionValidated());
         p.session.setIdioma(2);
@@ -178,8 +220,13 @@ private slots:
         QVERIFY(!p.find<QPushButton>("Botoes_5"));
         QVERIFY(!p.find<QPushButton>("Botoes_0"));
         QCOMPARE(p.inicial->findChildren<QPushButton *>(QRegularExpression(QStringLiteral("^Botoes_"))).size(), 3);
-        QVERIFY(p.inicial->openScreen(QStringLiteral("BuckTeste"))); // opened by name from another screen
         QCOMPARE(p.find<QPushButton>("Botoes_2")->toolTip(), QStringLiteral("Modo Comandos e Comparador"));
+        // Element 0: a screen other screens open by name, with no menu button, through a language change as well.
+        p.session.setIdioma(2);
+        p.inicial->Traducao_Form_Inicial();
+        QVERIFY(!p.find<QPushButton>("Botoes_0"));
+        QVERIFY(p.inicial->openScreen(QStringLiteral("BuckTeste")));
+        QVERIFY(p.session.isOpen(QStringLiteral("BuckTeste")));
 
         QWidget *first = p.inicial->openScreen(QStringLiteral("Master"));
         QVERIFY(first);
@@ -233,22 +280,6 @@ private slots:
         QApplication::processEvents();
         QVERIFY(area->horizontalScrollBar()->maximum() > 0);
         QVERIFY(area->verticalScrollBar()->maximum() > 0);
-    }
-
-    // Element 0: a screen other screens open by name, with no menu button, through a language
-    // change as well.
-    void screenWithoutMenuElement()
-    {
-        Program p(m_path);
-        const int buttons = int(p.inicial->findChildren<QPushButton *>().size());
-        p.inicial->registerScreen(0, QStringLiteral("RFs_Esq"), QStringLiteral("TensoesRF"),
-                                  [](const ScreenContext &ctx) -> QWidget * { return new DummyScreen(ctx, "RFs_Esq"); });
-        QVERIFY(!p.find<QPushButton>("Botoes_0"));
-        QCOMPARE(int(p.inicial->findChildren<QPushButton *>().size()), buttons);
-        p.session.setIdioma(2);
-        p.inicial->Traducao_Form_Inicial();
-        QVERIFY(p.inicial->openScreen(QStringLiteral("RFs_Esq")));
-        QVERIFY(p.session.isOpen(QStringLiteral("RFs_Esq")));
     }
 
     void languageChange_data()

@@ -4,11 +4,19 @@
 // tests never write into the build's own database. The simulator is stopped when the helper
 // goes out of scope, so a failing check half-way through never leaves a phone running.
 
+#include "ConsoleExchange.h"
+#include "FakeDialogs.h"
+#include "QtSerialPort.h"
+#include "Session.h"
+#include "TestScreen.h"
+
 #include <QFile>
 #include <QProcess>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <map>
+#include <memory>
 
 class SimProcess
 {
@@ -61,6 +69,29 @@ private:
     QString m_port;
 };
 
+// Simulated phones started on first use and shared by the tests of one file, one per model and
+// profile; null (with the reason logged) when one would not start.
+class SimPhones
+{
+public:
+    SimProcess *get(const QString &model, const QString &profile)
+    {
+        std::unique_ptr<SimProcess> &p = m_phones[model + u'/' + profile];
+        if (!p) {
+            p = std::make_unique<SimProcess>();
+            const QString error = p->start(model, profile);
+            if (!error.isEmpty()) {
+                qWarning("%s", qPrintable(error));
+                p.reset();
+            }
+        }
+        return p.get();
+    }
+
+private:
+    std::map<QString, std::unique_ptr<SimProcess>> m_phones;
+};
+
 // A writable copy of the shipped Config.vkt in its own temporary folder.
 class ConfigCopy
 {
@@ -79,4 +110,27 @@ private:
     QTemporaryDir m_dir;
     QString m_path;
     bool m_ok = false;
+};
+
+// The program's side of one phone opened by hand, without the main window: session, the real
+// serial link, the exchange and scripted boxes.
+struct SimLink
+{
+    Session session;
+    QtSerialPortLink port;
+    ConsoleExchange exchange{session, port};
+    FakeDialogs dialogs;
+    ScreenContext context{session, exchange, dialogs};
+
+    SimLink(const QString &config, const QString &model) : session(config) { session.setModelo(model); }
+
+    // Opens `pty` as a connected phone whose model is known; false when the port will not open.
+    bool open(const QString &pty)
+    {
+        if (port.open(pty) != SerialPort::NoError)
+            return false;
+        session.setConnectionFlag(QStringLiteral("1"));
+        session.setConnectionValidated(true);
+        return true;
+    }
 };

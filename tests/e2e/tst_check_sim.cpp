@@ -5,58 +5,26 @@
 
 #include "CheckHistory.h"
 #include "CheckReport.h"
+#include "CliRun.h"
 #include "DesktopProgram.h"
 #include "FakeShell.h"
 #include "Screens.h"
-#include "Texts.h"
 #include "SimProcess.h"
+#include "Texts.h"
 
 #include <QComboBox>
 #include <QJsonArray>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QTreeWidget>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QStandardPaths>
+#include <QTreeWidget>
 #include <QtTest>
 
 #include <unistd.h>
 
 namespace {
-
-struct CliRun
-{
-    int exitCode = -1;
-    QJsonObject json;
-    QString out;
-    QString errors;
-};
-
-CliRun runCli(const QStringList &args)
-{
-    QProcess cli;
-    cli.start(QStringLiteral(VEKTO_BIN_DIR "/vekto-cli"), args);
-    CliRun run;
-    if (!cli.waitForFinished(240000)) {
-        cli.kill();
-        cli.waitForFinished();
-        run.errors = QStringLiteral("vekto-cli did not finish");
-        return run;
-    }
-    run.exitCode = cli.exitStatus() == QProcess::NormalExit ? cli.exitCode() : -1;
-    run.out = QString::fromUtf8(cli.readAllStandardOutput());
-    run.json = QJsonDocument::fromJson(run.out.toUtf8()).object();
-    run.errors = QString::fromUtf8(cli.readAllStandardError());
-    return run;
-}
-
-QString describe(const CliRun &run)
-{
-    return QStringLiteral("exit %1\n%2\n%3").arg(run.exitCode).arg(run.out.left(3000), run.errors);
-}
 
 // The first row the check lists as failed: its step, name and the step's detail.
 QJsonObject firstFailure(const QJsonObject &check)
@@ -115,7 +83,7 @@ private slots:
     {
         const QString pdf = m_dir.filePath(QStringLiteral("good.pdf"));
         const CliRun first = check(m_good.port(), {QStringLiteral("--report"), pdf});
-        QVERIFY2(first.exitCode == 0, qPrintable(describe(first)));
+        QVERIFY2(first.exitCode == 0, qPrintable(first.describe()));
         QCOMPARE(first.json.value(QStringLiteral("complete")).toBool(), true);
         QCOMPARE(first.json.value(QStringLiteral("noAnswer")).toInt(), 0);
         QCOMPARE(first.json.value(QStringLiteral("stepsRun")), first.json.value(QStringLiteral("stepsTotal")));
@@ -132,7 +100,7 @@ private slots:
         const CliRun history = runCli({QStringLiteral("history"), QStringLiteral("--serial"), m_serial,
                                        QStringLiteral("--db"), m_config.path()});
         QCOMPARE(history.exitCode, 0);
-        QCOMPARE(history.out.count(QLatin1String("\tcomplete\tpass")), 2);
+        QCOMPARE(history.text.count(QLatin1String("\tcomplete\tpass")), 2);
     }
 
     void faultIsListedFirst_data()
@@ -153,7 +121,7 @@ private slots:
         QVERIFY2(started.isEmpty(), qPrintable(started));
         const QString pdf = m_dir.filePath(profile + QStringLiteral(".pdf"));
         const CliRun run = check(phone.port(), {QStringLiteral("--report"), pdf});
-        QVERIFY2(run.exitCode == 1, qPrintable(describe(run)));
+        QVERIFY2(run.exitCode == 1, qPrintable(run.describe()));
         QCOMPARE(run.json.value(QStringLiteral("complete")).toBool(), true);
         const QJsonObject failure = firstFailure(run.json);
         QCOMPARE(failure.value(QStringLiteral("step")).toString(), step);
@@ -163,9 +131,9 @@ private slots:
         const CliRun text = runCli({QStringLiteral("check"), QStringLiteral("--port"), phone.port(),
                                     QStringLiteral("--model"), QStringLiteral("IP 7"), QStringLiteral("--db"),
                                     m_config.path()});
-        const QStringList lines = text.out.split(u'\n', Qt::SkipEmptyParts);
+        const QStringList lines = text.text.split(u'\n', Qt::SkipEmptyParts);
         QVERIFY2(lines.value(1).endsWith(QLatin1String("fail")) || lines.value(1).contains(QLatin1String("fail  (")),
-                 qPrintable(text.out));
+                 qPrintable(text.text));
         QVERIFY(lines.value(1).contains(failure.value(QStringLiteral("name")).toString()));
 
         // The report, read back as text by pdftotext, names the failing net or device.
@@ -220,7 +188,7 @@ private slots:
         QVERIFY2(started.isEmpty(), qPrintable(started));
         const int before = storedChecks();
         const CliRun run = check(phone.port());
-        QVERIFY2(run.exitCode == 1, qPrintable(describe(run)));
+        QVERIFY2(run.exitCode == 1, qPrintable(run.describe()));
         QCOMPARE(run.json.value(QStringLiteral("complete")).toBool(), false);
         QCOMPARE(run.json.value(QStringLiteral("status")).toString(), QStringLiteral("lost"));
         QVERIFY(run.json.value(QStringLiteral("stepsRun")).toInt() < run.json.value(QStringLiteral("stepsTotal")).toInt());
@@ -240,7 +208,7 @@ private slots:
         QVERIFY2(started.isEmpty(), qPrintable(started));
         const CliRun run = runCli({QStringLiteral("check"), QStringLiteral("--port"), phone.port(), QStringLiteral("--model"),
                                    QStringLiteral("IP 7"), QStringLiteral("--db"), m_config.path(), QStringLiteral("--json")});
-        QVERIFY2(run.exitCode == 1, qPrintable(describe(run)));
+        QVERIFY2(run.exitCode == 1, qPrintable(run.describe()));
         QCOMPARE(run.json.value(QStringLiteral("judged")).toBool(), false);
         QCOMPARE(run.json.value(QStringLiteral("noAnswer")).toInt(), run.json.value(QStringLiteral("stepsTotal")).toInt());
         QCOMPARE(run.json.value(QStringLiteral("serial")).toString(), QStringLiteral("unknown"));
@@ -272,7 +240,7 @@ private slots:
             QFile::setPermissions(m_config.path(), QFileDevice::ReadOwner | QFileDevice::WriteOwner);
             QVERIFY(QSqlQuery(other).exec(QStringLiteral("ROLLBACK")) || readOnly);
             other.close();
-            QVERIFY2(run.exitCode == 2, qPrintable(describe(run)));
+            QVERIFY2(run.exitCode == 2, qPrintable(run.describe()));
             QVERIFY2(run.errors.contains(QLatin1String("not stored")) && run.errors.contains(m_config.path()),
                      qPrintable(run.errors));
             // The check itself still ran whole and says so.
@@ -361,7 +329,7 @@ private slots:
         QFETCH(QStringList, args);
         QFETCH(QString, message);
         const CliRun run = runCli(args);
-        QVERIFY2(run.exitCode == 2, qPrintable(describe(run)));
+        QVERIFY2(run.exitCode == 2, qPrintable(run.describe()));
         QVERIFY2(run.errors.contains(message), qPrintable(run.errors));
     }
 };

@@ -1,6 +1,10 @@
-// Reading rails out of a console answer: units, per cents, time-outs, decimals and bad input.
+// Reading rails out of a console answer (units, per cents, time-outs, decimals and bad input)
+// and the buck self test's two answer forms, their numbering and their verdicts.
+#include "BuckEngine.h"
 #include "RailEngine.h"
 
+#include <QFile>
+#include <QRegularExpression>
 #include <QtTest>
 
 namespace {
@@ -217,28 +221,118 @@ private slots:
         QCOMPARE(int(RailEngine::verdict(r, refv, RailEngine::DefaultTolerancePercent)), expected);
     }
 
-    // A grid colours the rows it reads back from Master: only the shown reading is left.
-    void verdictOfStoredReading_data()
+    // The demo references are the simulator's good board: its answer passes every judged rail of
+    // every model, so the two cannot drift apart unnoticed (data/make_master_demo.py writes them).
+    void goodBoardPassesTheDemoReferences()
     {
-        QTest::addColumn<QString>("leitura");
-        QTest::addColumn<QString>("refv");
-        QTest::addColumn<int>("expected");
-        QTest::newRow("two decimals still millivolts") << "0.85 V" << "0.850" << int(RailVerdict::Pass);
-        QTest::newRow("one decimal, low") << "0.7 V" << "0.850" << int(RailVerdict::Fail);
-        QTest::newRow("cut to zero") << "0 V" << "0.850" << int(RailVerdict::Fail);
-        QTest::newRow("milliamps") << "12,3 mA" << "12,3" << int(RailVerdict::Pass);
-        QTest::newRow("no reading") << "Sem Medição*" << "0.850" << int(RailVerdict::Fail);
-        QTest::newRow("reference 0") << "3.000 V" << "0" << int(RailVerdict::None);
+        static const QRegularExpression row(QStringLiteral("\\('([^']*)', '([^']*)', '([^']*)', \\d+, '[^']*', '([^']*)', '([^']*)'"));
+        QFile seed(QStringLiteral(VEKTO_SOURCE_DIR "/data/seed/30_master_demo.sql"));
+        QVERIFY(seed.open(QIODevice::ReadOnly));
+        QMap<QString, QList<RailReference>> models;
+        for (auto it = row.globalMatch(QString::fromUtf8(seed.readAll())); it.hasNext();) {
+            const auto m = it.next();
+            models[m.captured(1)].append({m.captured(2), m.captured(4), m.captured(5), m.captured(3)});
+        }
+        QCOMPARE(models.size(), 9);
+        for (auto it = models.cbegin(); it != models.cend(); ++it) {
+            QFile answer(QStringLiteral(VEKTO_SOURCE_DIR "/sim/answers/") + QString(it.key()).toLower().remove(u' ')
+                         + QStringLiteral("/pmuadc-all.txt"));
+            QVERIFY2(answer.open(QIODevice::ReadOnly), qPrintable(answer.fileName()));
+            const QList<RailReference> &refs = it.value();
+            const auto readings = RailEngine::ProcessaLeituras(QString::fromUtf8(answer.readAll()), refs, {});
+            QCOMPARE(readings.size(), refs.size());
+            for (int i = 0; i < refs.size(); ++i) {
+                // A rail whose reference is "0" (off in diagnostics mode) is shown, not judged.
+                const RailVerdict expected = refs[i].refv == QLatin1String("0") ? RailVerdict::None : RailVerdict::Pass;
+                QVERIFY2(RailEngine::verdict(readings[i], refs[i].refv, RailEngine::DefaultTolerancePercent) == expected,
+                         qPrintable(it.key() + u' ' + readings[i].malha + u' ' + readings[i].leitura));
+            }
+        }
     }
 
-    void verdictOfStoredReading()
+    // --- the buck self test ---------------------------------------------------------------
+
+    void buckLeituras_data()
     {
-        QFETCH(QString, leitura);
-        QFETCH(QString, refv);
-        QFETCH(int, expected);
-        RailMeasurement stored;
-        stored.leitura = leitura;
-        QCOMPARE(int(RailEngine::verdict(stored, refv, RailEngine::DefaultTolerancePercent)), expected);
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<QStringList>("lines");
+        QTest::newRow("from buck0")
+            << "\r\nbuck\r\r\nbuck0: 850 mV\r\r\nbuck1: 1234 mV\r\r\n[0000001A:0000BEEF] :-) "
+            << QStringList{"   buck0 voltage: 0.850 V", "   buck1 voltage: 1.234 V"};
+        QTest::newRow("from buck1")
+            << "\r\nbuck\r\r\nbuck1: 5 mV\r\r\nbuck2: 0 mV\r\r\nbuck3: 12345 mV\r\r\n[0000001A:0000BEEF] :-) "
+            << QStringList{"   buck1 voltage: 0.005 V", "   buck2 voltage: 0.000 V", "   buck3 voltage: 12.345 V"};
+        QTest::newRow("heading with a colon")
+            << "\r\nbuck\r\r\nBuck outputs:\r\r\nbuck1: 900 mV\r\r\n" << QStringList{"   buck1 voltage: 0.900 V"};
+        QTest::newRow("no pairs") << "\r\nbuck\r\r\nCommand \"buck\" not found\r\r\n[0:0] :-) " << QStringList{};
+        QTest::newRow("a check answer") << "buck1: target 850 mV measured 851 mV PASS" << QStringList{};
+        QTest::newRow("empty") << "" << QStringList{};
+    }
+
+    void buckLeituras()
+    {
+        QFETCH(QString, answer);
+        QFETCH(QStringList, lines);
+        QStringList got;
+        for (const BuckLine &l : ExtraiLeiturasBuck(answer))
+            got << l.text;
+        QCOMPARE(got, lines);
+    }
+
+    void buckBist_data()
+    {
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<QStringList>("lines");
+        QTest::addColumn<QList<bool>>("passed");
+        QTest::newRow("pass")
+            << "\r\nbuckcheck 1\r\r\nbuck1: target 850 mV, measured 851 mV : PASS\r\r\n[0:0] :-) "
+            << QStringList{"   buck1: Referência: 0.850 V - Leitura:  0.851 V : PASS"} << QList<bool>{true};
+        // The list numbers its own lines: a check of buck 2 is its first line.
+        QTest::newRow("fail")
+            << "\r\nbuckcheck 2\r\r\nbuck2: target 1234 mV, measured 0 mV : FAIL\r\r\n"
+            << QStringList{"   buck1: Referência: 1.234 V - Leitura:  0.000 V : FAIL"} << QList<bool>{false};
+        QTest::newRow("buck0 numbers from zero")
+            << "buck0: target 5 mV, measured 5 mV : PASS\r\nbuck1: target 12345 mV, measured 12345 mV : FAIL\r\n"
+            << QStringList{"   buck0: Referência: 0.005 V - Leitura:  0.005 V : PASS",
+                           "   buck1: Referência: 12.34 V - Leitura:  12.345 V : FAIL"}
+            << QList<bool>{true, false};
+        QTest::newRow("no measured") << "buck1: target 850 mV" << QStringList{} << QList<bool>{};
+        // Whatever the target looks like, the line and the device's verdict stay.
+        QTest::newRow("target with a fraction")
+            << "buck5 target 1060.000 mV measured 0.000 mV FAIL\r\n"
+            << QStringList{"   buck1: Referência: 1.060 V - Leitura:  0.000 V : FAIL"} << QList<bool>{false};
+        QTest::newRow("target of six digits")
+            << "buck5 target 123456 mV measured 0 mV FAIL\r\n"
+            << QStringList{"   buck1: Referência: 12345 V - Leitura:  0.000 V : FAIL"} << QList<bool>{false};
+        QTest::newRow("garbled target")
+            << "target x50 mV, measured 851 mV : PASS"
+            << QStringList{"   buck1: Referência: 0.x50 V - Leitura:  0.851 V : PASS"} << QList<bool>{true};
+        QTest::newRow("garbled measured")
+            << "target 850 mV, measured ?? mV : FAIL"
+            << QStringList{"   buck1: Referência: 0.850 V - Leitura:  ?? V : FAIL"} << QList<bool>{false};
+    }
+
+    void buckBist()
+    {
+        QFETCH(QString, answer);
+        QFETCH(QStringList, lines);
+        QFETCH(QList<bool>, passed);
+        QStringList got;
+        QList<bool> gotPassed;
+        for (const BuckLine &l : ExtraiBistBuck(answer)) {
+            got << l.text;
+            gotPassed << l.passed;
+        }
+        QCOMPARE(got, lines);
+        QCOMPARE(gotPassed, passed);
+    }
+
+    void buckTranslatedWords()
+    {
+        const auto lines = ExtraiBistBuck(QStringLiteral("target 850 mV measured 850 mV PASS"),
+                                          {QStringLiteral("Reference"), QStringLiteral("Reading")});
+        QCOMPARE(lines.size(), 1);
+        QCOMPARE(lines[0].text, QStringLiteral("   buck1: Reference: 0.850 V - Reading:  0.850 V : PASS"));
     }
 };
 

@@ -11,7 +11,6 @@
 #include "VCores.h"
 
 #include <QComboBox>
-#include <QLabel>
 #include <QFile>
 #include <QLabel>
 #include <QListWidget>
@@ -78,12 +77,17 @@ struct Bench
             exchange.onTimer2();
     }
 
-    void read(RailScreen &screen)
+    // The exchange under way to its end, then the screen's two ticks that store and show it.
+    void settle(RailScreen &screen)
     {
-        screen.ExecutaLeitura();
         finishExchange();
         screen.onTimer1();
         screen.onTimer2();
+    }
+    void read(RailScreen &screen)
+    {
+        screen.ExecutaLeitura();
+        settle(screen);
     }
 
     QString leitura(const QString &malha, int slot = 0)
@@ -99,6 +103,20 @@ struct Bench
 QString gridValue(QSqlQueryModel *model, int row, const QString &column)
 {
     return model->data(model->index(row, model->record().indexOf(column))).toString();
+}
+
+// One column of the grid, top to bottom.
+QStringList column(QSqlQueryModel *model, const QString &name)
+{
+    QStringList values;
+    for (int r = 0; r < model->rowCount(); ++r)
+        values << gridValue(model, r, name);
+    return values;
+}
+
+template<typename T> T *child(QWidget &screen, const char *name)
+{
+    return screen.findChild<T *>(QLatin1String(name));
 }
 
 } // namespace
@@ -124,8 +142,8 @@ private slots:
         screen.ExecutaLeitura();
         QCOMPARE(b.port.written, QByteArrayList{"pmuadc --read all\r"});
         QCOMPARE(b.session.screenId(), QStringLiteral("16"));
-        QVERIFY(!screen.findChild<QPushButton *>(QStringLiteral("btExecutaLeitura"))->isEnabled());
-        QVERIFY(!screen.findChild<QComboBox *>(QStringLiteral("cbICs"))->isEnabled());
+        QVERIFY(!child<QPushButton>(screen, "btExecutaLeitura")->isEnabled());
+        QVERIFY(!child<QComboBox>(screen, "cbICs")->isEnabled());
         screen.onTimer1(); // the exchange is still running: nothing happens
         QVERIFY(screen.timer1().isActive());
         b.finishExchange();
@@ -133,7 +151,7 @@ private slots:
         QVERIFY(!screen.timer1().isActive());
         QVERIFY(screen.timer2().isActive());
         screen.onTimer2();
-        QVERIFY(screen.findChild<QPushButton *>(QStringLiteral("btExecutaLeitura"))->isEnabled());
+        QVERIFY(child<QPushButton>(screen, "btExecutaLeitura")->isEnabled());
 
         QCOMPARE(b.leitura(QStringLiteral("PP_CPU")), QStringLiteral("0.893 V"));
         QCOMPARE(b.leitura(QStringLiteral("I_PP_CPU")), QStringLiteral("352,3 mA"));
@@ -141,11 +159,8 @@ private slots:
         // Class 2 rails are not this screen's.
         QCOMPARE(b.leitura(QStringLiteral("PP1V8_SDRAM")), QString());
 
-        QSqlQueryModel *grid = screen.Data1();
-        QVERIFY(grid->rowCount() > 0);
-        for (int r = 0; r < grid->rowCount(); ++r)
-            QVERIFY2(!gridValue(grid, r, QStringLiteral("Leitura")).isEmpty(),
-                     qPrintable(gridValue(grid, r, QStringLiteral("Malha"))));
+        const QStringList shown = column(screen.Data1(), QStringLiteral("Leitura"));
+        QVERIFY(!shown.isEmpty() && !shown.contains(QString()));
     }
 
     void chipFilterAndDecimals()
@@ -156,21 +171,16 @@ private slots:
         auto *decimals = screen.findChild<QComboBox *>(QStringLiteral("ComboDecimais"));
         decimals->setCurrentText(QStringLiteral("2")); // a change starts a reading when idle
         QCOMPARE(b.port.written.size(), 1);
-        b.finishExchange();
-        screen.onTimer1();
-        screen.onTimer2();
+        b.settle(screen);
         QCOMPARE(b.leitura(QStringLiteral("PP_CPU")), QStringLiteral("0.89 V"));
         QCOMPARE(Database(b.path).combo(1).value_or(QString()), QStringLiteral("2"));
 
-        screen.findChild<QComboBox *>(QStringLiteral("cbICs"))->setCurrentText(QStringLiteral("NAND"));
+        child<QComboBox>(screen, "cbICs")->setCurrentText(QStringLiteral("NAND"));
         QCOMPARE(b.port.written.size(), 2);
-        b.finishExchange();
-        screen.onTimer1();
-        screen.onTimer2();
-        QSqlQueryModel *grid = screen.Data1();
-        QVERIFY(grid->rowCount() > 0);
-        for (int r = 0; r < grid->rowCount(); ++r)
-            QVERIFY(gridValue(grid, r, QStringLiteral("Ci")).contains(QStringLiteral("NAND")));
+        b.settle(screen);
+        const QStringList chips = column(screen.Data1(), QStringLiteral("Ci"));
+        QVERIFY(!chips.isEmpty());
+        QCOMPARE(chips.filter(QStringLiteral("NAND")), chips);
 
         // Restored at the next opening.
         VCores again(b.context);
@@ -211,42 +221,30 @@ private slots:
         Bench b;
         b.port.answers << simAnswer(QStringLiteral("ip7/pmuadc-all.txt"));
         VCores screen(b.context);
-        screen.findChild<QComboBox *>(QStringLiteral("cbICs"))->setCurrentText(QStringLiteral("NAND"));
-        b.finishExchange();
-        screen.onTimer1();
-        screen.onTimer2();
+        child<QComboBox>(screen, "cbICs")->setCurrentText(QStringLiteral("NAND"));
+        b.settle(screen);
         b.session.setModelo(QStringLiteral("IP 8"));
         b.session.setModelo(QStringLiteral("IP 7"));
-        QSqlQueryModel *grid = screen.Data1();
-        QStringList shown;
-        for (int r = 0; r < grid->rowCount(); ++r)
-            shown << gridValue(grid, r, QStringLiteral("Malha"));
-        QVERIFY2(shown.contains(QStringLiteral("PP_CPU")), qPrintable(shown.join(u',')));
-
+        QVERIFY(column(screen.Data1(), QStringLiteral("Malha")).contains(QStringLiteral("PP_CPU")));
         b.dialogs.answers = {true};
         screen.gravar(1);
         QVERIFY(!b.leitura(QStringLiteral("PP_CPU"), 1).isEmpty());
-        for (int r = 0; r < grid->rowCount(); ++r)
-            QCOMPARE(gridValue(grid, r, QStringLiteral("G1")), gridValue(grid, r, QStringLiteral("Leitura")));
+        QCOMPARE(column(screen.Data1(), QStringLiteral("G1")), column(screen.Data1(), QStringLiteral("Leitura")));
     }
 
     void failingWriteLeavesNoRowHalfWritten()
     {
         Bench b;
-        {
-            Database db(b.path);
-            QSqlQuery q(db.connection());
-            // The last rail of the reading cannot be written.
-            QVERIFY(q.exec(QStringLiteral(
-                "CREATE TRIGGER refuse BEFORE UPDATE OF Leitura ON Master "
-                "WHEN NEW.Malha = 'PP_GPU_BUCK8' AND NEW.Leitura <> '' BEGIN SELECT RAISE(ABORT, 'refused'); END")));
-        }
+        // The last rail of the reading cannot be written.
+        QVERIFY(QSqlQuery(Database(b.path).connection())
+                    .exec(QStringLiteral("CREATE TRIGGER refuse BEFORE UPDATE OF Leitura ON Master WHEN NEW.Malha = "
+                                         "'PP_GPU_BUCK8' AND NEW.Leitura <> '' BEGIN SELECT RAISE(ABORT, 'refused'); END")));
         b.port.answers << simAnswer(QStringLiteral("ip7/pmuadc-all.txt"));
         VCores screen(b.context);
         b.read(screen);
         QCOMPARE(b.leitura(QStringLiteral("PP_CPU")), QString());
         QVERIFY(b.dialogs.shown.last().startsWith(QStringLiteral("critical:")));
-        QVERIFY(screen.findChild<QPushButton *>(QStringLiteral("btExecutaLeitura"))->isEnabled());
+        QVERIFY(child<QPushButton>(screen, "btExecutaLeitura")->isEnabled());
     }
 
     // The flag is "1" after the empty first answer of a silent port: no reading before the
@@ -257,7 +255,7 @@ private slots:
         b.session.setConnectionFlag(QStringLiteral("0"));
         b.session.setConnectionFlag(QStringLiteral("1"));
         VCores screen(b.context);
-        auto *button = screen.findChild<QPushButton *>(QStringLiteral("btExecutaLeitura"));
+        auto *button = child<QPushButton>(screen, "btExecutaLeitura");
         QVERIFY(!button->isEnabled());
         screen.ExecutaLeitura();
         QVERIFY(b.port.written.isEmpty());
@@ -281,16 +279,12 @@ private slots:
         screen.onTimer1();
         QVERIFY(!screen.timer1().isActive());
         QVERIFY(!screen.readingUnderWay());
-        QVERIFY(!screen.findChild<QPushButton *>(QStringLiteral("btExecutaLeitura"))->isEnabled());
-        QVERIFY(screen.findChild<QComboBox *>(QStringLiteral("cbICs"))->isEnabled());
+        QVERIFY(!child<QPushButton>(screen, "btExecutaLeitura")->isEnabled());
+        QVERIFY(child<QComboBox>(screen, "cbICs")->isEnabled());
         // The reading never came: the one that was there is back, in the file and the grid.
         QCOMPARE(b.leitura(QStringLiteral("PP_CPU")), before);
-        QSqlQueryModel *grid = screen.Data1();
-        bool shown = false;
-        for (int r = 0; r < grid->rowCount(); ++r)
-            shown = shown || (gridValue(grid, r, QStringLiteral("Malha")) == QLatin1String("PP_CPU")
-                              && gridValue(grid, r, QStringLiteral("Leitura")) == before);
-        QVERIFY(shown);
+        const int cpu = int(column(screen.Data1(), QStringLiteral("Malha")).indexOf(QStringLiteral("PP_CPU")));
+        QCOMPARE(column(screen.Data1(), QStringLiteral("Leitura")).value(cpu), before);
     }
 
     void buckTeste()
@@ -358,6 +352,11 @@ private slots:
         QTest::newRow("reference 0 is not judged") << "PP_X" << "0" << "0.500 V" << "0 %" << none;
         // The verdict comes from the numbers, not from a percentage text cut for the grid.
         QTest::newRow("absurd reading with a short text") << "PP_CPU" << "0.900" << "9000.000 V" << "99999" << fail;
+        // Only the shown reading is left: it is judged whatever decimals or unit it was cut to.
+        QTest::newRow("two decimals still millivolts") << "PP_CPU" << "0.850" << "0.85 V" << "0 %" << pass;
+        QTest::newRow("one decimal, low") << "PP_CPU" << "0.850" << "0.7 V" << "-17,6 %" << fail;
+        QTest::newRow("cut to zero") << "PP_CPU" << "0.850" << "0 V" << "-100 %" << fail;
+        QTest::newRow("milliamps") << "I_PP_CPU" << "12,3" << "12,3 mA" << "0 %" << pass;
     }
     void rowVerdict()
     {
@@ -418,8 +417,8 @@ private slots:
         }
         QCOMPARE(opened, (QStringList{"VCores", "BuckTeste", "VCores"}));
         QCOMPARE(vcores.findChild<QComboBox *>(QStringLiteral("cbICs"))->currentText(), QStringLiteral("NAND"));
-        for (int r = 0; r < vcores.Data1()->rowCount(); ++r)
-            QVERIFY(gridValue(vcores.Data1(), r, QStringLiteral("Ci")).contains(QStringLiteral("NAND")));
+        const QStringList chips = column(vcores.Data1(), QStringLiteral("Ci"));
+        QCOMPARE(chips.filter(QStringLiteral("NAND")), chips);
     }
 
     void ip6NoteShownOnce_data()
@@ -437,12 +436,11 @@ private slots:
         Bench b;
         b.session.setModelo(modelo);
         BuckTeste screen(b.context);
-        const QString info = screen.findChild<QLabel *>(QStringLiteral("lbInfoBucks"))->text();
-        QCOMPARE(int(info.count(QStringLiteral("IP 6 / IP 6 Plus"))), notes);
+        auto *info = child<QLabel>(screen, "lbInfoBucks");
+        QCOMPARE(int(info->text().count(QStringLiteral("IP 6 / IP 6 Plus"))), notes);
         b.session.setIdioma(2); // and again after the screen re-captions itself
         screen.retranslate();
-        QCOMPARE(int(screen.findChild<QLabel *>(QStringLiteral("lbInfoBucks"))->text().count(QStringLiteral("IP 6 / IP 6 Plus"))),
-                 notes);
+        QCOMPARE(int(info->text().count(QStringLiteral("IP 6 / IP 6 Plus"))), notes);
     }
 };
 

@@ -1,7 +1,8 @@
 // The simulated phone's board on its own: the console framing every answer keeps, commands split
 // across writes or typed in another case, the fault profiles that change the framing, answers
 // taken from a folder, and the command line's refusals. What the program reads out of the
-// answers is checked where it is read: the engines' tests and the end-to-end tests.
+// answers (I2C devices, radios, rails) is checked where it is read: the engines' tests on the
+// simulated boards and the end-to-end tests.
 #include "AnswerStore.h"
 #include "Board.h"
 #include "SimCatalog.h"
@@ -33,14 +34,6 @@ QByteArray consoleText(const QByteArray &received)
     QByteArray t = received;
     t.replace("\n", "\r\n");
     return "\r\n" + t;
-}
-
-QStringList modelNames()
-{
-    QStringList names;
-    for (const SimModel &m : SimCatalog::models())
-        names << m.name;
-    return names;
 }
 
 }
@@ -138,66 +131,6 @@ private slots:
             QVERIFY(consoleText(exchange(board, command.toLatin1())).size() >= 7001);
     }
 
-    void i2cDevices_data()
-    {
-        QTest::addColumn<QString>("model");
-        for (const SimModel &m : SimCatalog::models())
-            QTest::newRow(qPrintable(m.name)) << m.name;
-    }
-
-    void i2cDevices()
-    {
-        QFETCH(QString, model);
-        Board good = boardFor(model);
-        Board missing = boardFor(model, Profile::I2cMissing);
-        const QList<QByteArray> rows = AnswerStore().dataFile(QStringLiteral("i2c.tsv")).split('\n');
-        int seen = 0, lost = 0;
-        for (const QByteArray &row : rows) {
-            const QList<QByteArray> f = row.split('\t');
-            if (f.size() < 5 || f[0] != model.toUtf8())
-                continue;
-            const QByteArray entry = f[4], address = entry.mid(1, 3), command = "i2c -s " + entry.left(1);
-            ++seen;
-            QVERIFY2(good.answerBody(QString::fromLatin1(command)).contains(address), entry.constData());
-            if (!missing.answerBody(QString::fromLatin1(command)).contains(address)) {
-                ++lost;
-                QCOMPARE(entry.left(1).toInt(), Board::missingI2cBus(model));
-            }
-        }
-        QVERIFY(seen >= 5);
-        QCOMPARE(lost, 1);
-    }
-
-    void radios_data()
-    {
-        QTest::addColumn<QString>("command");
-        QTest::addColumn<QStringList>("success");
-        const QString ok = QStringLiteral("OK"), on = QStringLiteral("on success");
-        QTest::newRow("baseband") << "baseband --on" << QStringList{"Baseband is already powered on", "BB_HSIC_RDY", on, ok};
-        QTest::newRow("bluetooth") << "bluetooth --on" << QStringList{"Already on", on, ok};
-        QTest::newRow("gps on wifi") << "wifi --on" << QStringList{"GPS is already on", on, ok};
-        QTest::newRow("wifi") << "wifi --on" << QStringList{"Wifi is already on", on, ok};
-    }
-
-    void radios()
-    {
-        QFETCH(QString, command);
-        QFETCH(QStringList, success);
-        for (const QString &model : modelNames()) {
-            Board good = boardFor(model), dead = boardFor(model, Profile::DeadRadio);
-            const QByteArray g = consoleText(exchange(good, command.toLatin1()));
-            const QByteArray d = consoleText(exchange(dead, command.toLatin1()));
-            bool goodHit = false;
-            for (const QString &s : success) {
-                goodHit |= g.contains(s.toUtf8());
-                QVERIFY2(!d.contains(s.toUtf8()), qPrintable(model + s));
-            }
-            QVERIFY(goodHit);
-            QVERIFY(!d.contains("not found"));
-            QCOMPARE(exchange(dead, "bl -n"), exchange(good, "bl -n"));  // only the radios are dead
-        }
-    }
-
     void unplugCutsLongAnswer()
     {
         Board board = boardFor(QStringLiteral("IP 7"), Profile::Unplug);
@@ -247,7 +180,6 @@ private slots:
         Board other(AnswerStore(dir.path()), *SimCatalog::modelByName(QStringLiteral("IP 8")), Profile::Good);
         QVERIFY(!other.answerBody(QStringLiteral("battery --properties")).contains("4101"));
     }
-
 
     void commandLineRefusesUnknownNames()
     {
