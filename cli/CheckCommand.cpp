@@ -172,7 +172,8 @@ int runHistory(const QStringList &args, QTextStream &out, QTextStream &err)
             const std::optional<CheckResult> full = CheckHistory::load(db, c.id);
             out << c.id << u'\t' << c.data << u'\t' << c.modelo << u'\t' << c.serie << u'\t' << c.versao << u'\t'
                 << (c.completa ? QStringLiteral("complete") : QStringLiteral("incomplete")) << u'\t'
-                << (full && full->anyFailed() ? QStringLiteral("fail") : QStringLiteral("pass")) << u'\n';
+                // Only a check whose every step answered and passed reads "pass".
+                << (full && full->exitCode() == 0 ? QStringLiteral("pass") : QStringLiteral("fail")) << u'\n';
         }
         if (list.isEmpty())
             out << QStringLiteral("no stored check for this serial number\n");
