@@ -172,7 +172,7 @@ private slots:
         const QStringList messages = Texts::messageKeys() + dictionary;
         QStringList missing;
         int seen = 0;
-        for (const char *folder : {"core", "comparator", "refs", "rails", "chips", "boardtests", "platform", "cli", "app"}) {
+        for (const char *folder : {"core", "comparator", "refs", "rails", "chips", "boardtests", "boardcheck", "platform", "cli", "app"}) {
             QDirIterator it(source.filePath(QString::fromLatin1(folder)), {QStringLiteral("*.cpp"), QStringLiteral("*.h")},
                             QDir::Files, QDirIterator::Subdirectories);
             while (it.hasNext()) {
