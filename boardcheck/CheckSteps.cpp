@@ -16,6 +16,7 @@
 
 #include <QHash>
 #include <QRegularExpression>
+#include <QSet>
 
 namespace {
 
@@ -184,18 +185,30 @@ QList<CheckStep> steps(const QString &model)
     list.append({QStringLiteral("bateria"), battery, OutrosEngine::StatusTickLimit, OutrosTickMs,
                  [battery](const QString &a) { return saidSomething(a, battery); },
                  [battery](const CheckContext &c, const QString &answer, QString *) {
-                     // Shown, never judged: charge and current change from one reading to the next.
                      JudgeReport report;
                      report.model = c.model;
-                     for (const QString &line : answerLines(answer, battery)) {
-                         const qsizetype colon = line.indexOf(u':');
-                         report.rows.append({colon > 0 ? line.left(colon).trimmed() : QStringLiteral("Bateria"),
-                                             QJsonValue(), colon > 0 ? line.mid(colon + 1).trimmed() : line,
-                                             QJsonValue(), Verdict::None});
-                     }
+                     report.rows = batteryRows(answer);
                      return one(report);
                  }});
     return list;
+}
+
+QList<JudgedRow> batteryRows(const QString &answer)
+{
+    // Shown, never judged: charge and current change from one reading to the next. Each property
+    // is listed once, as it first appears, so the log lines a talkative phone repeats between
+    // them cannot bury the properties under thousands of rows.
+    QList<JudgedRow> rows;
+    QSet<QString> seen;
+    for (const QString &line : answerLines(answer, OutrosEngine::bateriaCommand())) {
+        const qsizetype colon = line.indexOf(u':');
+        const QString name = colon > 0 ? line.left(colon).trimmed() : QStringLiteral("Bateria");
+        if (seen.contains(name))
+            continue;
+        seen.insert(name);
+        rows.append({name, QJsonValue(), colon > 0 ? line.mid(colon + 1).trimmed() : line, QJsonValue(), Verdict::None});
+    }
+    return rows;
 }
 
 QString title(const QString &key, const QString &model, quint8 idioma)

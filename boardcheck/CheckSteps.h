@@ -39,6 +39,8 @@ QString unknownSerial();
 
 // Every step for `model`, in the order they run.
 QList<CheckStep> steps(const QString &model);
+// The battery properties of a battery answer, each listed once, never judged.
+QList<JudgedRow> batteryRows(const QString &answer);
 
 // What the screens and the report call a step, in language `idioma`.
 QString title(const QString &key, const QString &model, quint8 idioma);

@@ -9,6 +9,7 @@
 #include "Database.h"
 #include "DatabaseBuilder.h"
 #include "FakeSerialPort.h"
+#include "OutrosEngine.h"
 #include "Session.h"
 
 #include <QSignalSpy>
@@ -89,6 +90,22 @@ private slots:
         QFETCH(QString, answer);
         QFETCH(QString, serial);
         QCOMPARE(CheckSteps::serialFromAnswer(answer), serial);
+    }
+
+    // A talkative phone repeats its log lines between the properties; each property is one row.
+    void batteryPropertiesListedOnce()
+    {
+        const QString noise = QStringLiteral("AppleARMPMU: event 1 charger poll\n");
+        const QList<JudgedRow> rows = CheckSteps::batteryRows(console(
+            OutrosEngine::bateriaCommand(), QStringLiteral("Voltage: 3854 mV\n") + noise + noise
+                                                + QStringLiteral("Current: -285 mA\nVoltage: 3853 mV\n") + noise));
+        QStringList shown;
+        for (const JudgedRow &r : rows) {
+            shown << r.name + u'=' + r.caption;
+            QCOMPARE(r.verdict, Verdict::None);
+        }
+        QCOMPARE(shown, (QStringList{QStringLiteral("Voltage=3854 mV"), QStringLiteral("AppleARMPMU=event 1 charger poll"),
+                                     QStringLiteral("Current=-285 mA")}));
     }
 
     void verdictOfTheWholeCheck_data()
