@@ -2,6 +2,7 @@
 // whole reading through the exchange (send, slices, hand-over, parse, paint) on a screen, with
 // a scripted phone so that only our own code is timed and not the 500 ms slice timers.
 #include "Acorn.h"
+#include "BenchTiming.h"
 #include "ChipEngine.h"
 #include "ConsoleExchange.h"
 #include "Dialogs.h"
@@ -41,10 +42,9 @@ public:
     std::optional<QString> saveFileName(QWidget *, const QString &, const QString &) override { return {}; }
 };
 
-double medianUs(QList<qint64> v)
+double medianUs(const QList<qint64> &ns)
 {
-    std::sort(v.begin(), v.end());
-    return v.at(v.size() / 2) / 1000.0;
+    return medianNs(ns) / 1000.0;
 }
 
 } // namespace

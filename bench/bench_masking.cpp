@@ -12,28 +12,17 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QRandomGenerator>
+#include "BenchTiming.h"
+
 #include <QTemporaryDir>
 #include <QTextStream>
 #include <algorithm>
 
 namespace {
 
-double medianMs(QList<qint64> ns)
-{
-    std::sort(ns.begin(), ns.end());
-    return ns.at(ns.size() / 2) / 1e6;
-}
-
 template<typename Fn> double timeMs(int rounds, Fn fn)
 {
-    QList<qint64> ns;
-    for (int r = 0; r < rounds; ++r) {
-        QElapsedTimer t;
-        t.start();
-        fn();
-        ns << t.nsecsElapsed();
-    }
-    return medianMs(ns);
+    return medianRunNs(rounds, fn) / 1e6;
 }
 
 QString serial(QRandomGenerator &random)

@@ -5,6 +5,7 @@
 // the page writes and the syncs, which is not what a technician's reading costs. The syncs that
 // reach the disk are counted by wrapping fsync/fdatasync, the calls SQLite makes for them.
 
+#include "BenchTiming.h"
 #include "Database.h"
 #include "RailEngine.h"
 
@@ -70,22 +71,14 @@ Reading makeReading(int rails, int round)
     return r;
 }
 
-double medianUs(QList<qint64> ns)
+double medianUs(const QList<qint64> &ns)
 {
-    std::sort(ns.begin(), ns.end());
-    return ns.at(ns.size() / 2) / 1000.0;
+    return medianNs(ns) / 1000.0;
 }
 
 template<typename Fn> double timeUs(int rounds, Fn fn)
 {
-    QList<qint64> ns;
-    for (int r = 0; r < rounds; ++r) {
-        QElapsedTimer t;
-        t.start();
-        fn();
-        ns << t.nsecsElapsed();
-    }
-    return medianUs(ns);
+    return medianRunNs(rounds, fn) / 1000.0;
 }
 
 // What the label search was: a search from the start of the answer for every row.
